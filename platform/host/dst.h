@@ -1,0 +1,7 @@
+#pragma once
+
+namespace dst
+{
+/// A sheet of a sheet set; only its address passes through here.
+class OdSmSheet;
+}

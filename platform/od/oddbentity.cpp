@@ -1,0 +1,1 @@
+#include "od/oddbentity.h"

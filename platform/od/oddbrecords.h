@@ -1,0 +1,112 @@
+#pragma once
+
+#include "od/odarray.h"
+#include "od/odcmcolor.h"
+#include "od/oddbobject.h"
+#include "od/odge.h"
+
+/// Lineweights are in hundredths of a millimetre; below zero stand the special ones.
+namespace OdDb
+{
+enum LineWeight
+{
+    kLnWtByLayer = -1,
+    kLnWtByBlock = -2,
+    kLnWtByLwDefault = -3,
+};
+}
+
+class PLATFORM_EXPORT OdDbLayerTableRecord : public OdDbSymbolTableRecord
+{
+public:
+    using OdDbSymbolTableRecord::OdDbSymbolTableRecord;
+
+    const OdCmColor& color() const { return m_color; }
+    void setColor(const OdCmColor& color) { m_color = color; }
+    bool isOff() const { return m_off; }
+    void setIsOff(bool off) { m_off = off; }
+    bool isFrozen() const { return m_frozen; }
+    void setIsFrozen(bool frozen) { m_frozen = frozen; }
+    bool isLocked() const { return m_locked; }
+    void setIsLocked(bool locked) { m_locked = locked; }
+    OdDbObjectId linetypeObjectId() const { return m_linetype; }
+    void setLinetypeObjectId(OdDbObjectId linetype) { m_linetype = linetype; }
+    int lineWeight() const { return m_lineWeight; }
+    void setLineWeight(int lineWeight) { m_lineWeight = lineWeight; }
+
+private:
+    OdCmColor m_color = OdCmColor::fromIndex(7);
+    bool m_off = false;
+    bool m_frozen = false;
+    bool m_locked = false;
+    OdDbObjectId m_linetype;
+    int m_lineWeight = OdDb::kLnWtByLwDefault;
+};
+
+/// A linetype: its dashes in drawing units, above zero a dash, below zero a gap, zero a dot. No dashes: continuous.
+class PLATFORM_EXPORT OdDbLinetypeTableRecord : public OdDbSymbolTableRecord
+{
+public:
+    using OdDbSymbolTableRecord::OdDbSymbolTableRecord;
+
+    const OdString& comments() const { return m_comments; }
+    void setComments(const OdString& comments) { m_comments = comments; }
+    const OdArray<double>& dashes() const { return m_dashes; }
+    void setDashes(const OdArray<double>& dashes) { m_dashes = dashes; }
+
+private:
+    OdString m_comments;
+    OdArray<double> m_dashes;
+};
+
+class PLATFORM_EXPORT OdDbDimStyleTableRecord : public OdDbSymbolTableRecord
+{
+public:
+    using OdDbSymbolTableRecord::OdDbSymbolTableRecord;
+};
+
+class PLATFORM_EXPORT OdDbTextStyleTableRecord : public OdDbSymbolTableRecord
+{
+public:
+    using OdDbSymbolTableRecord::OdDbSymbolTableRecord;
+
+    const OdString& fileName() const { return m_fileName; }
+    void setFileName(const OdString& fileName) { m_fileName = fileName; }
+
+private:
+    OdString m_fileName;
+};
+
+/// A block: the entities drawn as one by every insert of it, or the model or paper space of the drawing.
+class PLATFORM_EXPORT OdDbBlockTableRecord : public OdDbSymbolTableRecord
+{
+public:
+    using OdDbSymbolTableRecord::OdDbSymbolTableRecord;
+
+    const OdArray<OdDbObjectId>& entities() const { return m_entities; }
+    OdGePoint3d origin() const { return m_origin; }
+    void setOrigin(const OdGePoint3d& origin) { m_origin = origin; }
+    /// The layout that shows this block, or null for an ordinary block.
+    OdDbObjectId getLayoutId() const { return m_layout; }
+
+private:
+    friend class OdDbDatabase;
+
+    OdArray<OdDbObjectId> m_entities;
+    OdGePoint3d m_origin;
+    OdDbObjectId m_layout;
+};
+
+/// A sheet of the drawing over one block.
+class PLATFORM_EXPORT OdDbLayout : public OdDbSymbolTableRecord
+{
+public:
+    using OdDbSymbolTableRecord::OdDbSymbolTableRecord;
+
+    OdDbObjectId getBlockTableRecordId() const { return m_block; }
+
+private:
+    friend class OdDbDatabase;
+
+    OdDbObjectId m_block;
+};

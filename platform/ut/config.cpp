@@ -1,0 +1,1 @@
+#include "ut/config.h"

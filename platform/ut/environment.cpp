@@ -1,0 +1,1 @@
+#include "ut/environment.h"

@@ -1,0 +1,1 @@
+#include "ut/uuid.h"

@@ -1,0 +1,1 @@
+#include "velm/bridge/qtcontrollerwrapper.h"

@@ -1,0 +1,1 @@
+#include "velm/dialogs/basedialogcontroller.h"

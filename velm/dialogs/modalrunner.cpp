@@ -1,0 +1,1 @@
+#include "velm/dialogs/modalrunner.h"

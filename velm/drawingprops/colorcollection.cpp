@@ -1,0 +1,1 @@
+#include "velm/drawingprops/colorcollection.h"

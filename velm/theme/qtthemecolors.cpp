@@ -1,0 +1,1 @@
+#include "velm/theme/qtthemecolors.h"

@@ -1,0 +1,1 @@
+#include "velm/units/ilinearunitsdataprovider.h"

@@ -1,0 +1,1 @@
+#include "velm/units/iunitformatter.h"
