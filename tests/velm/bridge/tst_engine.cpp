@@ -13,6 +13,7 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QThread>
+#include <QTimer>
 
 using namespace velm;
 
@@ -45,7 +46,8 @@ private Q_SLOTS:
         }
         const QByteArray platform("QT_QPA_PLATFORM");
         QTest::newRow("the platform xcb stays") << platform << QByteArray("xcb") << QByteArray() << QByteArray("xcb");
-        QTest::newRow("another platform is emptied") << platform << QByteArray("wayland") << QByteArray() << QByteArray();
+        QTest::newRow("another platform is emptied")
+            << platform << QByteArray("wayland") << QByteArray() << QByteArray();
         QTest::newRow("xcb with an option is another platform")
             << platform << QByteArray("xcb:x") << QByteArray() << QByteArray();
         QTest::newRow("an override of the platform wins over xcb")
@@ -91,10 +93,14 @@ private Q_SLOTS:
         QTest::addColumn<QString>("file");
         QTest::addColumn<QString>("module");
         QTest::addColumn<QString>("url");
-        QTest::newRow("a file below the root") << "page.qml" << "Tandolin.UI" << "qrc:/qt/qml/page.qml";
-        QTest::newRow("any other file lies in its module")
-            << "a.qml" << "Tandolin.UI" << "qrc:/qt/qml/Tandolin/UI/a.qml";
-        QTest::newRow("a folder below the module") << "parts/a.qml" << "One.Two.Three"
+        QTest::newRow("a file below the root") << "page.qml"
+                                               << "Tandolin.UI"
+                                               << "qrc:/qt/qml/page.qml";
+        QTest::newRow("any other file lies in its module") << "a.qml"
+                                                           << "Tandolin.UI"
+                                                           << "qrc:/qt/qml/Tandolin/UI/a.qml";
+        QTest::newRow("a folder below the module") << "parts/a.qml"
+                                                   << "One.Two.Three"
                                                    << "qrc:/qt/qml/One/Two/Three/parts/a.qml";
     }
     void aPageIsNamedByItsPathOrByItsModule()
