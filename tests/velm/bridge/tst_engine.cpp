@@ -126,12 +126,12 @@ private Q_SLOTS:
     void errorsAreLoggedAndGiveNoObject()
     {
         QQmlEngine engine;
-        QTest::ignoreMessage(QtCriticalMsg, QRegularExpression("^Unexpected token"));
+        QTest::ignoreMessage(QtCriticalMsg, QRegularExpression("^Expected token"));
         QVERIFY(!loadQml(QString("import QtQml\nQtObject {{"), engine));
         QTest::ignoreMessage(QtCriticalMsg, QRegularExpression("^No such file or directory$"));
         QVERIFY(!loadQml(QUrl("qrc:/qt/qml/none.qml"), engine));
         QTest::ignoreMessage(QtCriticalMsg, QRegularExpression("module \"No.Such\".* is not installed"));
-        loadPlugins({"QtQml", "No.Such"}, engine);
+        loadPlugins({"No.Such"}, engine);
 
         QCOMPARE(logErrors({}), HasErrors::No);
         QQmlError first;
@@ -164,6 +164,26 @@ private Q_SLOTS:
         QVERIFY(!qmlMethodIsInvokable(object.get(), "dra"));
         QVERIFY(!qmlMethodIsInvokable(object.get(), "draw(QVariant)"));
         QVERIFY(!qmlMethodIsInvokable(object.get(), ""));
+    }
+
+    void everyEngineKnowsTheModulesAndTheStyle()
+    {
+        PluginImportLoader loader;
+        const QString imports = QCoreApplication::applicationDirPath() + "/imports";
+        for (int round = 0; round < 2; ++round) {
+            // With a used loader as well: the paths that it remembers are the new engine's too.
+            auto engine = createEngine(loader);
+            QVERIFY(!ut::IgnoreMemoryLeakTracking::isActive());
+            QCOMPARE(loader.importPaths, std::vector<QString>({imports + "/Tandolin", imports}));
+            QCOMPARE(engine->importPathList().mid(0, 2), QStringList({imports, imports + "/Tandolin"}));
+            QCOMPARE(QQuickStyle::name(), QString("Tandolin.API.Core.Style"));
+            ignoreSingletonLeaksOnStartup(*engine);
+            QVERIFY(!ut::IgnoreMemoryLeakTracking::isActive());
+            loader.reload(*engine);
+            QCOMPARE(engine->importPathList().mid(0, 2), QStringList({imports, imports + "/Tandolin"}));
+            QVERIFY(loader.plugins.empty());
+            resetEngine(engine);
+        }
     }
 
     void theEngineGoesDownInOrder()

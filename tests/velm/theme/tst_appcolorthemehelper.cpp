@@ -25,6 +25,9 @@ private Q_SLOTS:
             helper.setUp();
             configured[theme] = ut::guiColorRef(ut::EGuiColor::PanelBackground);
             QVERIFY(configured[theme] != 0xC0C0C0);
+            // A second engine finds the modules as well.
+            helper.setUp();
+            QCOMPARE(ut::guiColorRef(ut::EGuiColor::PanelBackground), configured[theme]);
         }
         QVERIFY(configured[0] != configured[1]);
         QVERIFY(!qApp);
