@@ -110,6 +110,7 @@ void tst_OdApDocManager::onlyAChangeOfTheCurrentDocumentIsTold()
     manager.setCurDocument(a);
     manager.setCurDocument(foreign.get());
     manager.setCurDocument(nullptr);
+    manager.removeReactor(&recorder); // which dies before the manager
     QVERIFY(recorder.take().isEmpty());
     QCOMPARE(manager.curDocument(), a);
 }
@@ -131,6 +132,8 @@ void tst_OdApDocManager::reactorsMayChangeTheListWhileTold()
         manager.addReactor(&added);
     };
     manager.open(document(L"a"));
+    manager.removeReactor(&third);
+    manager.removeReactor(&added);
     QCOMPARE(first.take().size(), 1);
     QCOMPARE(third.take().size(), 5);
     QCOMPARE(added.take().first(), QStringLiteral("created(a) -")); // from the next operation on
