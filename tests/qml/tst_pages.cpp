@@ -74,6 +74,7 @@ private Q_SLOTS:
     void aListIsWalkedByKeyboard();
     void aListTellsWhatIsActivated();
     void aListFindsRowsOfAnItemModel();
+    void aListBeginsAtTheRowThatItIsGiven();
     void mnemonicsPressTheirButtons();
 
 private:
@@ -328,6 +329,16 @@ void TestPages::aListFindsRowsOfAnItemModel()
     shown.type("z");
     shown.press(Qt::Key_End);
     QCOMPARE(list->property("currentIndex"), row);
+}
+
+void TestPages::aListBeginsAtTheRowThatItIsGiven()
+{
+    const std::unique_ptr<QObject> page =
+        load("PlainListView { currentIndex: 2; model: { let rows = []; for (let i = 0; i < 9; ++i) rows.push('Row ' + i);\n"
+             "return rows; } }");
+    QVERIFY(page);
+    QCOMPARE(page->property("currentIndex").toInt(), 2);
+    QCOMPARE(page->property("count").toInt(), 9);
 }
 
 void TestPages::mnemonicsPressTheirButtons()
