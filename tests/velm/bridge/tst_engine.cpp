@@ -13,6 +13,7 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QThread>
+#include <QTimer>
 
 using namespace velm;
 
@@ -45,7 +46,8 @@ private Q_SLOTS:
         }
         const QByteArray platform("QT_QPA_PLATFORM");
         QTest::newRow("the platform xcb stays") << platform << QByteArray("xcb") << QByteArray() << QByteArray("xcb");
-        QTest::newRow("another platform is emptied") << platform << QByteArray("wayland") << QByteArray() << QByteArray();
+        QTest::newRow("another platform is emptied")
+            << platform << QByteArray("wayland") << QByteArray() << QByteArray();
         QTest::newRow("xcb with an option is another platform")
             << platform << QByteArray("xcb:x") << QByteArray() << QByteArray();
         QTest::newRow("an override of the platform wins over xcb")
@@ -91,10 +93,14 @@ private Q_SLOTS:
         QTest::addColumn<QString>("file");
         QTest::addColumn<QString>("module");
         QTest::addColumn<QString>("url");
-        QTest::newRow("a file below the root") << "page.qml" << "Tandolin.UI" << "qrc:/qt/qml/page.qml";
-        QTest::newRow("any other file lies in its module")
-            << "a.qml" << "Tandolin.UI" << "qrc:/qt/qml/Tandolin/UI/a.qml";
-        QTest::newRow("a folder below the module") << "parts/a.qml" << "One.Two.Three"
+        QTest::newRow("a file below the root") << "page.qml"
+                                               << "Tandolin.UI"
+                                               << "qrc:/qt/qml/page.qml";
+        QTest::newRow("any other file lies in its module") << "a.qml"
+                                                           << "Tandolin.UI"
+                                                           << "qrc:/qt/qml/Tandolin/UI/a.qml";
+        QTest::newRow("a folder below the module") << "parts/a.qml"
+                                                   << "One.Two.Three"
                                                    << "qrc:/qt/qml/One/Two/Three/parts/a.qml";
     }
     void aPageIsNamedByItsPathOrByItsModule()
@@ -120,12 +126,12 @@ private Q_SLOTS:
     void errorsAreLoggedAndGiveNoObject()
     {
         QQmlEngine engine;
-        QTest::ignoreMessage(QtCriticalMsg, QRegularExpression("^Unexpected token"));
+        QTest::ignoreMessage(QtCriticalMsg, QRegularExpression("^Expected token"));
         QVERIFY(!loadQml(QString("import QtQml\nQtObject {{"), engine));
         QTest::ignoreMessage(QtCriticalMsg, QRegularExpression("^No such file or directory$"));
         QVERIFY(!loadQml(QUrl("qrc:/qt/qml/none.qml"), engine));
         QTest::ignoreMessage(QtCriticalMsg, QRegularExpression("module \"No.Such\".* is not installed"));
-        loadPlugins({"QtQml", "No.Such"}, engine);
+        loadPlugins({"No.Such"}, engine);
 
         QCOMPARE(logErrors({}), HasErrors::No);
         QQmlError first;
@@ -158,6 +164,26 @@ private Q_SLOTS:
         QVERIFY(!qmlMethodIsInvokable(object.get(), "dra"));
         QVERIFY(!qmlMethodIsInvokable(object.get(), "draw(QVariant)"));
         QVERIFY(!qmlMethodIsInvokable(object.get(), ""));
+    }
+
+    void everyEngineKnowsTheModulesAndTheStyle()
+    {
+        PluginImportLoader loader;
+        const QString imports = QCoreApplication::applicationDirPath() + "/imports";
+        for (int round = 0; round < 2; ++round) {
+            // With a used loader as well: the paths that it remembers are the new engine's too.
+            auto engine = createEngine(loader);
+            QVERIFY(!ut::IgnoreMemoryLeakTracking::isActive());
+            QCOMPARE(loader.importPaths, std::vector<QString>({imports + "/Tandolin", imports}));
+            QCOMPARE(engine->importPathList().mid(0, 2), QStringList({imports, imports + "/Tandolin"}));
+            QCOMPARE(QQuickStyle::name(), QString("Tandolin.API.Core.Style"));
+            ignoreSingletonLeaksOnStartup(*engine);
+            QVERIFY(!ut::IgnoreMemoryLeakTracking::isActive());
+            loader.reload(*engine);
+            QCOMPARE(engine->importPathList().mid(0, 2), QStringList({imports, imports + "/Tandolin"}));
+            QVERIFY(loader.plugins.empty());
+            resetEngine(engine);
+        }
     }
 
     void theEngineGoesDownInOrder()

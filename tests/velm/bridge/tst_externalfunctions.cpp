@@ -61,14 +61,12 @@ private Q_SLOTS:
     {
         ExternalFunctions functions;
         functions.plotStyleColorDependent = [] { return true; };
-        functions.defaultLineWeight = [] { return 25; };
         const velmtest::ScopedExternalFunctions scope(functions);
-        QCOMPARE(externalFunctions().defaultLineWeight(), 25);
+        QVERIFY(plotStyleColorDependent());
         ExternalFunctions next;
         next.getWebDocUrl = [](const QString&) { return QString("next"); };
         setVELMExternalFunction(next);
         QVERIFY(!plotStyleColorDependent());
-        QVERIFY(!externalFunctions().defaultLineWeight);
         QCOMPARE(getWebDocUrl(""), QString("next"));
     }
 

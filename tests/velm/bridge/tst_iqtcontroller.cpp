@@ -15,8 +15,7 @@
 
 using namespace velm;
 
-namespace
-{
+namespace {
 class SheetSetPanel : public ISheetSetPanel
 {
 public:
@@ -54,7 +53,7 @@ public:
     }
     void getInterfaces(std::vector<IQtControllerInterface*>& result) const override { result = interfaces; }
 };
-}
+} // namespace
 
 class TestIQtController : public QObject
 {

@@ -6,8 +6,7 @@
 
 using namespace velm;
 
-namespace
-{
+namespace {
 QStringList calls;
 
 class Listener : public QtPanelActivateListener
@@ -20,7 +19,7 @@ public:
 private:
     QString m_name;
 };
-}
+} // namespace
 
 class TestPanelListenerHandler : public QObject
 {

@@ -3,12 +3,12 @@
 
 #include <QTest>
 
+#include <wx/arrstr.h>
 #include <wx/translation.h>
 
 using namespace velm;
 
-namespace
-{
+namespace {
 /// A catalogue that knows one word.
 class OneWordLoader : public wxTranslationsLoader
 {
@@ -29,7 +29,7 @@ public:
         return languages;
     }
 };
-}
+} // namespace
 
 class TestStringHolder : public QObject
 {

@@ -7,8 +7,7 @@
 
 using namespace velm;
 
-namespace
-{
+namespace {
 class Controller : public BaseDialogController
 {
 public:
@@ -27,7 +26,7 @@ private:
         return answer;
     }
 };
-}
+} // namespace
 
 class TestBaseDialogController : public QObject
 {

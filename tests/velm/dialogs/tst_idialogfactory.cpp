@@ -20,8 +20,8 @@ private Q_SLOTS:
         QCOMPARE(constFactory.showInfoMessage(L"Caption", L"Text", nullptr, MessageButtonStyle::OK), 4);
         QCOMPARE(constFactory.showWarningMessage(L"Caption", L"Text", parent, MessageButtonStyle::YesNo), 8);
         QCOMPARE(constFactory.showErrorMessage(L"Caption", L"Text", nullptr, MessageButtonStyle::OKCancel), 16);
-        QCOMPARE(
-            constFactory.showMessage(L"C", L"T", EMessageStyle::Warning, MessageButtonStyle::YesNoCancel, nullptr), 2);
+        QCOMPARE(constFactory.showMessage(L"C", L"T", EMessageStyle::Warning, MessageButtonStyle::YesNoCancel, nullptr),
+                 2);
         QCOMPARE(constFactory.showMessage(L"C", L"T", EMessageStyle(3), {{L"&Clone", 99}, {L"&Skip", 5}}, parent), 99);
         QCOMPARE(
             factory.showMessage(L"C", L"T", L"Don't ask again", EMessageStyle::Error, MessageButtonStyle::OK, nullptr),

@@ -6,8 +6,7 @@
 
 using namespace velm;
 
-namespace
-{
+namespace {
 /// What a host's modal run keeps of an exception.
 class KeptException : public ICppUnitException
 {
@@ -24,7 +23,7 @@ private:
     std::string m_what;
     QStringList& m_log;
 };
-}
+} // namespace
 
 class TestModalRunner : public QObject
 {
@@ -80,7 +79,7 @@ private Q_SLOTS:
     void aRunnerWithoutAFunctionSaysSo()
     {
         ModalRunner runner({});
-        QVERIFY_EXCEPTION_THROWN(runner.run(m_dialog), std::bad_function_call);
+        QVERIFY_THROWS_EXCEPTION(std::bad_function_call, runner.run(m_dialog));
     }
 
     void guiTestingIsOffUntilItIsSet()

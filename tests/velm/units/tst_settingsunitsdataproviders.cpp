@@ -12,11 +12,10 @@
 
 using namespace velm;
 
-namespace
-{
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+namespace {
+constexpr double noValue = std::numeric_limits<double>::quiet_NaN();
 constexpr double infinity = std::numeric_limits<double>::infinity();
-}
+} // namespace
 
 class TestSettingsUnitsDataProviders : public QObject
 {
@@ -77,10 +76,10 @@ private Q_SLOTS:
         QTest::addColumn<double>("angular");
         const auto value = [](double number) { return std::optional<double>(number); };
         QTest::newRow("a value") << true << value(2.5) << 2.5 << 2.5;
-        QTest::newRow("a failure counts for lengths only") << false << value(2.5) << nan << 2.5;
-        QTest::newRow("nothing written is no value") << true << std::optional<double>() << nan << nan;
-        QTest::newRow("no number is no value") << true << value(nan) << nan << nan;
-        QTest::newRow("minus infinity is no value") << true << value(-infinity) << nan << nan;
+        QTest::newRow("a failure counts for lengths only") << false << value(2.5) << noValue << 2.5;
+        QTest::newRow("nothing written is no value") << true << std::optional<double>() << noValue << noValue;
+        QTest::newRow("no number is no value") << true << value(noValue) << noValue << noValue;
+        QTest::newRow("minus infinity is no value") << true << value(-infinity) << noValue << noValue;
     }
     void whatTheFormatterParsesCounts()
     {
@@ -95,10 +94,9 @@ private Q_SLOTS:
         QCOMPARE(m_linear.validateValue("2.5"), !std::isnan(linear));
         QCOMPARE(m_angular.parseValue(" 2.5 g\n"), angular);
         QCOMPARE(m_angular.validateValue("2.5"), !std::isnan(angular));
-        QCOMPARE(m_formatter.log,
-                 QStringList({"got for 0", "parseLinear inf '2.5 mm'", "got for 0", "parseLinear inf '2.5'",
-                              "got for 0", "parseAngular inf '2.5 g' null 0", "got for 0",
-                              "parseAngular inf '2.5' null 0"}));
+        QCOMPARE(m_formatter.log, QStringList({"got for 0", "parseLinear inf '2.5 mm'", "got for 0",
+                                               "parseLinear inf '2.5'", "got for 0", "parseAngular inf '2.5 g' null 0",
+                                               "got for 0", "parseAngular inf '2.5' null 0"}));
     }
 
     void withoutAFormatterTheDrawingSpeaks()
@@ -125,11 +123,11 @@ private Q_SLOTS:
         QTest::addColumn<double>("value");
         QTest::newRow("a number with a unit behind a blank") << "  12.5 mm " << 12.5;
         QTest::newRow("a number alone") << "-3e2" << -300.0;
-        QTest::newRow("a unit that touches its number") << "12.5mm" << nan;
-        QTest::newRow("a unit alone") << "mm" << nan;
-        QTest::newRow("a decimal comma") << "1,5" << nan;
-        QTest::newRow("nothing") << "" << nan;
-        QTest::newRow("blanks") << "   " << nan;
+        QTest::newRow("a unit that touches its number") << "12.5mm" << noValue;
+        QTest::newRow("a unit alone") << "mm" << noValue;
+        QTest::newRow("a decimal comma") << "1,5" << noValue;
+        QTest::newRow("nothing") << "" << noValue;
+        QTest::newRow("blanks") << "   " << noValue;
         QTest::newRow("infinity is not refused here") << "inf" << infinity;
     }
     void withoutBothTheCLocaleSpeaks()
