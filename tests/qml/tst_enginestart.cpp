@@ -7,14 +7,12 @@
 #include <QQmlContext>
 #include <QQmlPropertyMap>
 #include <QQuickItem>
-#include <QQuickStyle>
 #include <QQuickWindow>
 #include <QTest>
 
 using namespace velm;
 
-namespace
-{
+namespace {
 constexpr char themeDocument[] = "import QtQuick\n"
                                  "import Tandolin.API.Core.Themes.Engine\n"
                                  "QtObject { id: root; Component.onCompleted: Theme.setColorTheme(0) }";
@@ -90,6 +88,8 @@ void TestEngineStart::singletonsOfTheLibraryAreTheProgramsOwn()
 
 int main(int argc, char** argv)
 {
+    // The environment of a developer has no say, but the platform of the test has.
+    qputenv("TN_QT_QPA_PLATFORM", qgetenv("QT_QPA_PLATFORM"));
     undefineQtEnvVars();
     QApplication application(argc, argv);
     setDefaultLocale();
