@@ -77,7 +77,7 @@ bool isLevel(double along, double across)
 
 wxPoint2DDouble snapped(const wxPoint2DDouble& point)
 {
-    return {std::floor(point.m_x), std::floor(point.m_y)};
+    return {std::round(point.m_x), std::round(point.m_y)};
 }
 
 } // namespace
@@ -182,9 +182,9 @@ void DrawingPainter::paintChain(const Tessellation& tessellation, const Piece& p
             if (neighbour < piece.count) { // the one before the first is none as well
                 const wxPoint2DDouble way = screenPoint(neighbour) - point;
                 if (isLevel(way.m_x, way.m_y))
-                    result.m_y = std::floor(point.m_y);
+                    result.m_y = std::round(point.m_y);
                 if (isLevel(way.m_y, way.m_x))
-                    result.m_x = std::floor(point.m_x);
+                    result.m_x = std::round(point.m_x);
             }
         return result;
     };
