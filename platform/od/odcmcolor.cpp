@@ -58,6 +58,8 @@ Palette makePalette(bool darkBackground)
 
 std::uint8_t paletteChannel(std::uint16_t index, int shift)
 {
+    if (index < 1 || index > 256)
+        return 0;
     return static_cast<std::uint8_t>(odcmIndexPalette(true)[index - 1] >> shift);
 }
 } // namespace
@@ -94,9 +96,6 @@ void OdCmColor::setColorMethod(ColorMethod method)
     m_index = whiteIndex;
     m_red = m_green = m_blue = 0;
     switch (method) {
-    case kByColor:
-    case kByACI:
-        break;
     case kByBlock:
         m_index = kACIbyBlock;
         break;
@@ -104,9 +103,10 @@ void OdCmColor::setColorMethod(ColorMethod method)
         m_index = kACInone;
         break;
     case kByLayer:
-    default: // a number that is no method
-        m_method = kByLayer;
         m_index = kACIbyLayer;
+        break;
+    default:
+        break;
     }
 }
 
@@ -126,8 +126,8 @@ void OdCmColor::setColor(std::uint32_t packed)
     if (isByColor())
         setRGB(static_cast<std::uint8_t>(packed >> 16), static_cast<std::uint8_t>(packed >> 8),
                static_cast<std::uint8_t>(packed));
-    else if (isByACI())
-        setColorIndex(static_cast<std::uint16_t>(packed));
+    else if (!isByLayer() && !isByBlock() && !isNone())
+        m_index = static_cast<std::uint16_t>(packed);
 }
 
 std::uint16_t OdCmColor::colorIndex() const

@@ -43,7 +43,8 @@ public:
     bool isByACI() const { return m_method == kByACI; }
     bool isNone() const { return m_method == kNone; }
 
-    /// The packed form: the method in the high byte, below it red, green and blue or the index; 257 for none.
+    /// The packed form: the method in the high byte, below it red, green and blue or the index; 257 for none. It is
+    /// taken as it stands: a colour by index keeps the indices 0 and 256, and 0 is a colour of no method.
     std::uint32_t color() const;
     void setColor(std::uint32_t packed);
 

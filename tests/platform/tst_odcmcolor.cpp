@@ -27,8 +27,9 @@ void tst_OdCmColor::packedFormRoundTrips_data()
     QTest::newRow("none with its method") << 0xC8000000u << 257u;
     QTest::newRow("by block") << 0xC1000000u << 0xC1000000u;
     QTest::newRow("by layer") << OdCmColor().color() << OdCmColor().color();
-    QTest::newRow("an index that means by block") << 0xC3000000u << 0xC1000000u;
-    QTest::newRow("an unknown method is by layer") << 0x12345678u << OdCmColor().color();
+    QTest::newRow("a colour of no method stays one") << 0u << 0u;
+    QTest::newRow("index 256 stays an index") << 0xC3000100u << 0xC3000100u;
+    QTest::newRow("index 0 stays an index") << 0xC3000000u << 0xC3000000u;
 }
 
 void tst_OdCmColor::packedFormRoundTrips()

@@ -98,6 +98,10 @@ private Q_SLOTS:
         // Entry index - 1, blue in the high byte.
         QCOMPARE(toQtColor(OdCmColor::fromIndex(1), palette.data()), QColor(1, 2, 3));
         QCOMPARE(toQtColor(OdCmColor::fromIndex(255), palette.data()), QColor(0xFF, 2, 3));
+        constexpr std::uint32_t byIndex = 0xC3000000;
+        QCOMPARE(toQtColor(OdCmColor(byIndex | 256), palette.data()), QColor(0, 3, 3));
+        QVERIFY(!toQtColor(OdCmColor(byIndex), palette.data()).isValid());
+        QVERIFY(!toQtColor(OdCmColor(byIndex | 257), palette.data()).isValid());
         QVERIFY(!toQtColor(OdCmColor::fromIndex(1), nullptr).isValid());
         for (const OdCmColor::ColorMethod method : {OdCmColor::kByLayer, OdCmColor::kByBlock, OdCmColor::kNone})
             QVERIFY(!toQtColor(OdCmColor(method), palette.data()).isValid());

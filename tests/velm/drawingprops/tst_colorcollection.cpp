@@ -81,6 +81,7 @@ private Q_SLOTS:
         QTest::newRow("by layer in white mode") << OdCmColor(OdCmColor::kByLayer) << 32 << at(0);
         QTest::newRow("a true colour needs its flag") << OdCmColor::fromRGB(1, 2, 3) << ~1 << refused;
         QTest::newRow("a true colour with its flag") << OdCmColor::fromRGB(1, 2, 3) << 1 << at(10);
+        QTest::newRow("a packed value of 0 is refused whatever the flags") << OdCmColor(0u) << ~0 << refused;
         QTest::newRow("none needs its flag") << OdCmColor(OdCmColor::kNone) << ~8 << refused;
         QTest::newRow("none with its flag") << OdCmColor(OdCmColor::kNone) << 8 << at(2);
         QTest::newRow("an index needs nothing") << OdCmColor::fromIndex(3) << 0 << at(5);
