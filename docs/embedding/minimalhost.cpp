@@ -1,4 +1,4 @@
-// A wxWidgets host that shows a QML page in its frame. The manual prints this file.
+// A wxWidgets host that shows a QML page in its frame. README.md prints this file.
 #include "velm/bridge/conversions.h"
 #include "velm/bridge/engine.h"
 #include "velm/bridge/externalfunctions.h"
@@ -10,7 +10,7 @@
 
 #include <wx/wx.h>
 
-#include <gdk/gdkx.h> // last, for the macros of X11
+#include <gtk/gtkx.h> // last, for the macros of X11
 
 class Host : public wxApp
 {
@@ -26,7 +26,7 @@ class Host : public wxApp
 
         auto* frame = new wxFrame(nullptr, wxID_ANY, "A host of velm");
         auto* panel = new wxPanel(frame);
-        frame->Show();
+        gtk_widget_realize(panel->GetHandle());
         const auto native = GDK_WINDOW_XID(gtk_widget_get_window(panel->GetHandle()));
         m_window.reset(velm::getQtWrapper(reinterpret_cast<HWND>(native)));
         auto* view = new QQuickView(m_engine.get(), m_window.get());
@@ -36,6 +36,7 @@ class Host : public wxApp
         panel->Bind(wxEVT_DESTROY, [this](wxWindowDestroyEvent&) { m_window.reset(); });
         view->resize(velm::toQt(panel->GetClientSize()));
         view->show();
+        frame->Show();
         return true;
     }
 
