@@ -18,24 +18,24 @@ constexpr int lockTimeoutMs = 10000;
 constexpr int lockPollMs = 2;
 /// For the lock of a process that was killed before its name stood in it. Whoever lives keeps his for longer.
 constexpr int staleLockMs = 1000;
-const QString emptySegment = QStringLiteral("%");
+constexpr QChar escapeSign = u'%'; // alone: an empty segment
 
 /// QSettings drops empty segments of a path and takes a backslash for a slash on some systems.
 QString fullKey(const QString& section, const QString& key)
 {
     QStringList segments =
-        QString(key).replace(u'%', QStringLiteral("%25")).replace(u'\\', QStringLiteral("%5C")).split(u'/');
-    std::replace(segments.begin(), segments.end(), QString(), emptySegment);
+        QString(key).replace(escapeSign, QStringLiteral("%25")).replace(u'\\', QStringLiteral("%5C")).split(u'/');
+    std::replace(segments.begin(), segments.end(), QString(), QString(escapeSign));
     return section + u'/' + segments.join(u'/');
 }
 
 QString segmentName(const QString& segment)
 {
-    if (segment == emptySegment)
+    if (segment == escapeSign)
         return QString();
     return QString(segment)
         .replace(QStringLiteral("%5C"), QStringLiteral("\\"))
-        .replace(QStringLiteral("%25"), emptySegment);
+        .replace(QStringLiteral("%25"), QStringLiteral("%"));
 }
 
 bool lockSoon(QLockFile& lock)
