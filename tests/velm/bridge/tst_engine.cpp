@@ -7,6 +7,7 @@
 #include "velm/units/settings.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QPointer>
 #include <QQuickStyle>
 #include <QRegularExpression>
@@ -170,9 +171,17 @@ private Q_SLOTS:
     {
         PluginImportLoader loader;
         const QString imports = QCoreApplication::applicationDirPath() + "/imports";
+        // The pages lie in the modules' plugins.
+        const char* const pages[] = {
+            ":/qt/qml/Tandolin/UI/NameDialog.qml", ":/qt/qml/Tandolin/API/Core/Themes/Colors.qml",
+            ":/qt/qml/Tandolin/API/Core/Style/Button.qml", ":/qt/qml/Tandolin/API/Resources/Mark.qml"};
+        for (const char* page : pages)
+            QVERIFY2(!QFile::exists(page), page);
         for (int round = 0; round < 2; ++round) {
             // With a used loader as well: the paths that it remembers are the new engine's too.
             auto engine = createEngine(loader);
+            for (const char* page : pages)
+                QVERIFY2(QFile::exists(page), page);
             QVERIFY(!ut::IgnoreMemoryLeakTracking::isActive());
             QCOMPARE(loader.importPaths, std::vector<QString>({imports + "/Tandolin", imports}));
             QCOMPARE(engine->importPathList().mid(0, 2), QStringList({imports, imports + "/Tandolin"}));
