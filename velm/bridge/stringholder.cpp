@@ -2,6 +2,8 @@
 
 #include "velm/bridge/conversions.h"
 
+#include <utility>
+
 namespace velm {
 struct StringHolder::Pimpl
 {
@@ -28,7 +30,11 @@ StringHolder::StringHolder(const QString& text) : StringHolder()
 StringHolder::StringHolder(const StringHolder& other) : m_pimpl(std::make_unique<Pimpl>(*other.m_pimpl))
 {}
 
-StringHolder::StringHolder(StringHolder&& other) noexcept = default;
+// The record changes hands: what is moved from stays a usable, empty holder.
+StringHolder::StringHolder(StringHolder&& other) noexcept : StringHolder()
+{
+    m_pimpl.swap(other.m_pimpl);
+}
 
 StringHolder& StringHolder::operator=(const StringHolder& other)
 {
@@ -36,7 +42,12 @@ StringHolder& StringHolder::operator=(const StringHolder& other)
     return *this;
 }
 
-StringHolder& StringHolder::operator=(StringHolder&& other) noexcept = default;
+StringHolder& StringHolder::operator=(StringHolder&& other) noexcept
+{
+    StringHolder taken(std::move(other));
+    m_pimpl.swap(taken.m_pimpl);
+    return *this;
+}
 
 StringHolder::~StringHolder() = default;
 

@@ -11,6 +11,7 @@
 namespace velm
 {
 /// One string in the host's form, in Qt's form, or in both; each form is made at most once and only when asked for.
+/// A holder that was moved from is empty.
 class VELM_EXPORT StringHolder
 {
 public:

@@ -7,6 +7,8 @@
 #include <QApplication>
 #include <QQmlEngine>
 
+#include <utility>
+
 namespace velm {
 struct AppColorThemeHelper::Pimpl
 {
@@ -33,7 +35,8 @@ AppColorThemeHelper::~AppColorThemeHelper()
 
 void AppColorThemeHelper::setUp()
 {
-    m_pimpl->engine = std::make_unique<QQmlEngine>();
+    // A former engine goes last: the extension that works on it is still installed.
+    const auto former = std::exchange(m_pimpl->engine, std::make_unique<QQmlEngine>());
     addQmlPlugins({"Tandolin.API.Core.Themes"}, m_pimpl->loader, *m_pimpl->engine);
     ut::ThemeColorManager::setExtension(std::make_unique<QtThemeColors>(*m_pimpl->engine, *m_pimpl->application,
                                                                         std::function<IQtController*()>(),

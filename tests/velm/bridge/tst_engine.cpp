@@ -7,6 +7,7 @@
 #include "velm/units/settings.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QPointer>
 #include <QQuickStyle>
 #include <QRegularExpression>
@@ -43,6 +44,7 @@ private Q_SLOTS:
                 << QByteArray(name) << QByteArray("x") << QByteArray("y") << QByteArray("y");
             QTest::addRow("an override alone sets %s", name)
                 << QByteArray(name) << QByteArray() << QByteArray("y") << QByteArray("y");
+            QTest::addRow("%s stays unset", name) << QByteArray(name) << QByteArray() << QByteArray() << QByteArray();
         }
         const QByteArray platform("QT_QPA_PLATFORM");
         QTest::newRow("the platform xcb stays") << platform << QByteArray("xcb") << QByteArray() << QByteArray("xcb");
@@ -54,6 +56,7 @@ private Q_SLOTS:
             << platform << QByteArray("xcb") << QByteArray("offscreen") << QByteArray("offscreen");
         QTest::newRow("an override alone sets the platform")
             << platform << QByteArray() << QByteArray("offscreen") << QByteArray("offscreen");
+        QTest::newRow("the platform stays unset") << platform << QByteArray() << QByteArray() << QByteArray();
     }
     void theEnvironmentOfAQtInstallationIsTakenAway()
     {
@@ -68,12 +71,10 @@ private Q_SLOTS:
         const velmtest::ScopedEnvironment variable(name.constData(), optional(value));
         const velmtest::ScopedEnvironment overriding(overrideName.constData(), optional(override));
         // Not the variable in hand, but changed by the call as well.
-        const velmtest::ScopedEnvironment platform("QT_QPA_PLATFORM", qgetenv("QT_QPA_PLATFORM"));
-        const bool wasSet = qEnvironmentVariableIsSet(name.constData());
+        const velmtest::ScopedEnvironment platform("QT_QPA_PLATFORM", optional(qgetenv("QT_QPA_PLATFORM")));
         undefineQtEnvVars();
         QCOMPARE(qgetenv(name.constData()), left);
-        if (!wasSet && left.isEmpty())
-            QVERIFY(!qEnvironmentVariableIsSet(name.constData()));
+        QCOMPARE(qEnvironmentVariableIsSet(name.constData()), !value.isNull() || !override.isNull());
     }
 
     void numbersAreThoseOfTheCLocaleWithoutGroups()
@@ -170,9 +171,17 @@ private Q_SLOTS:
     {
         PluginImportLoader loader;
         const QString imports = QCoreApplication::applicationDirPath() + "/imports";
+        // The pages lie in the modules' plugins.
+        const char* const pages[] = {
+            ":/qt/qml/Tandolin/UI/NameDialog.qml", ":/qt/qml/Tandolin/API/Core/Themes/Colors.qml",
+            ":/qt/qml/Tandolin/API/Core/Style/Button.qml", ":/qt/qml/Tandolin/API/Resources/Mark.qml"};
+        for (const char* page : pages)
+            QVERIFY2(!QFile::exists(page), page);
         for (int round = 0; round < 2; ++round) {
             // With a used loader as well: the paths that it remembers are the new engine's too.
             auto engine = createEngine(loader);
+            for (const char* page : pages)
+                QVERIFY2(QFile::exists(page), page);
             QVERIFY(!ut::IgnoreMemoryLeakTracking::isActive());
             QCOMPARE(loader.importPaths, std::vector<QString>({imports + "/Tandolin", imports}));
             QCOMPARE(engine->importPathList().mid(0, 2), QStringList({imports, imports + "/Tandolin"}));

@@ -99,6 +99,25 @@ private Q_SLOTS:
         QCOMPARE(copy.stringQt(), QString("one"));
     }
 
+    void whatWasMovedFromIsAnEmptyHolder()
+    {
+        StringHolder source(QString("one"));
+        StringHolder target(std::move(source));
+        QVERIFY(source.isEmpty());
+        const StringHolder copyOfEmpty(source);
+        QVERIFY(copyOfEmpty.isEmpty());
+
+        source = std::move(target);
+        QVERIFY(target.stringWx().empty());
+        QCOMPARE(source.stringQt(), QString("one"));
+        source = target;
+        QVERIFY(source.isEmpty());
+        source.stringQt() = "two";
+        StringHolder& itself = source;
+        source = std::move(itself);
+        QCOMPARE(source.stringQt(), QString("two"));
+    }
+
     void sharedWordsFollowTheCatalogue()
     {
         QCOMPARE(QString::fromWCharArray(Strings::strNone()), QString("None"));

@@ -3,10 +3,13 @@
 #include "faketheme.h"
 #include "support/scopes.h"
 #include "ut/config.h"
+#include "velm/bridge/engine.h"
 #include "velm/bridge/iqtcontroller.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QRegularExpression>
+#include <QTemporaryFile>
 #include <QTest>
 
 using namespace velm;
@@ -98,6 +101,23 @@ private Q_SLOTS:
         QtThemeColors withNullPage(
             *m_engine, *qApp, [] { return nullptr; }, EGuiColorTheme::Dark, ERefreshQml::Yes);
         QCOMPARE(m_page.reloads.size(), 1);
+    }
+
+    void aChangeForgetsCompiledPagesButTheFirstThemeNeedNot()
+    {
+        QTemporaryFile file(QDir::tempPath() + "/XXXXXX.qml");
+        QVERIFY(file.open());
+        file.write("import QtQml\nQtObject {}");
+        file.close();
+        const QUrl page = QUrl::fromLocalFile(file.fileName());
+        QVERIFY(loadQml(page, *m_engine));
+        // From here on only what is compiled is left of the page.
+        QVERIFY(file.remove());
+        QtThemeColors colors = makeColors();
+        QVERIFY(loadQml(page, *m_engine));
+        QVERIFY(colors.setColorTheme(EGuiColorTheme::Light));
+        QTest::ignoreMessage(QtCriticalMsg, QRegularExpression("No such file or directory"));
+        QVERIFY(!loadQml(page, *m_engine));
     }
 
     void aThemeThatDoesNotLoadChangesNothing()

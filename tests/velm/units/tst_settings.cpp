@@ -1,5 +1,6 @@
 #include "velm/units/settings.h"
 
+#include "od/oddbdatabase.h"
 #include "support/fakehost.h"
 #include "support/scopes.h"
 #include "support/signallog.h"
@@ -81,8 +82,15 @@ private Q_SLOTS:
         QVERIFY(settings.formatAngle(45.0).isEmpty());
         QCOMPARE(settings.parseAngle("45"), 0.0);
 
-        velmtest::FakeUnitFormatter formatter;
+        // Not even an open drawing stands in.
+        OdDbDatabase database;
         ExternalFunctions functions;
+        functions.currentDatabase = [&] { return &database; };
+        const velmtest::ScopedExternalFunctions drawing(functions);
+        QVERIFY(settings.formatAngle(45.0).isEmpty());
+        QCOMPARE(settings.parseAngle("45"), 0.0);
+
+        velmtest::FakeUnitFormatter formatter;
         functions.getUnitFormatter = formatter.getter();
         const velmtest::ScopedExternalFunctions scope(functions);
         formatter.text = L"45°";
