@@ -1,1 +1,22 @@
 #include "desktop/desktop.h"
+
+#include <QGuiApplication>
+#include <QOpenGLContext>
+
+namespace desktop {
+QOpenGLContext* openGlContextFromNative(HGLRC context, [[maybe_unused]] HWND window)
+{
+    if (!context || !qGuiApp)
+        return nullptr;
+#if defined(Q_OS_WIN)
+    return QNativeInterface::QWGLContext::fromNative(context, window);
+#elif QT_CONFIG(xcb_glx_plugin)
+    // The GLX integration of another platform than this is not there to ask.
+    if (QGuiApplication::platformName() == QLatin1String("xcb"))
+        return QNativeInterface::QGLXContext::fromNative(reinterpret_cast<GLXContext>(context));
+    return nullptr;
+#else
+    return nullptr;
+#endif
+}
+} // namespace desktop

@@ -1,1 +1,5 @@
 #include "host/qwc.h"
+
+namespace qwc {
+qwxDialog::~qwxDialog() = default;
+}

@@ -4,6 +4,7 @@
 #include "velm/bridge/pluginimportloader.h"
 #include "velm/velm_export.h"
 
+#include <QDir>
 #include <QList>
 #include <QQmlEngine>
 #include <QQmlError>
@@ -52,6 +53,8 @@ VELM_EXPORT void setDefaultLocale();
 
 /// The name of the folder of QML modules below the executable.
 VELM_EXPORT QString getImportsFolder();
+/// That folder itself; the executable's folder when there is none.
+QDir importsDir();
 VELM_EXPORT OdString getGuiDevelopmentConfigKey();
 /// The folder with the sources of the QML modules in a development build; this build has none.
 VELM_EXPORT std::optional<QString> getGuiDevelopmentFolder();

@@ -1,1 +1,5 @@
 #include "velm/dialogs/ihostdialog.h"
+
+namespace velm {
+IHostDialog::~IHostDialog() = default;
+}

@@ -1,1 +1,5 @@
 #include "velm/units/ilinearunitsdataprovider.h"
+
+namespace velm {
+ILinearUnitsDataProvider::~ILinearUnitsDataProvider() = default;
+}

@@ -1,1 +1,5 @@
 #include "velm/units/iunitformatter.h"
+
+namespace velm {
+IUnitFormatter::~IUnitFormatter() = default;
+}

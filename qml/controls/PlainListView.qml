@@ -1,0 +1,128 @@
+import QtQml.Models
+import QtQuick
+import QtQuick.Controls
+import Tandolin.API.Core.Themes
+
+// A list of texts for mouse and keyboard: arrows, Home, End and page keys move, typed letters find the next row that begins
+// with them, Enter or a double click activates. The model is anything that a ListView takes; texts come from textRole, or
+// from "modelData" when that is empty.
+FocusScope {
+    id: control
+
+    property alias model: rows.model
+    property alias delegate: rows.delegate
+    property alias currentIndex: view.currentIndex
+    readonly property alias count: view.count
+    readonly property alias view: view
+    property string textRole
+
+    // The user chose the row by Enter or a double click.
+    signal activated(int row)
+
+    implicitWidth: 2 * Metrics.fieldWidth
+    implicitHeight: 8 * Metrics.rowHeight
+
+    function textAt(row: int): string {
+        const value = rows.items.get(row).model[textRole || "modelData"];
+        return value === undefined ? "" : String(value);
+    }
+
+    function find(letters: string) {
+        const wanted = letters.toLowerCase();
+        // One letter goes on from the current row; more of them may still match it.
+        const first = Math.max(0, currentIndex) + (wanted.length === 1 && currentIndex >= 0 ? 1 : 0);
+        for (let step = 0; step < count; ++step) {
+            const row = (first + step) % count;
+            if (textAt(row).toLowerCase().startsWith(wanted)) {
+                currentIndex = row;
+                return;
+            }
+        }
+    }
+
+    function moveTo(row: int) {
+        if (count > 0)
+            currentIndex = Math.min(count - 1, Math.max(0, row));
+    }
+
+    Keys.onPressed: event => {
+        const page = Math.max(1, Math.floor(view.height / Metrics.rowHeight) - 1);
+        event.accepted = true;
+        if (event.key === Qt.Key_Up)
+            moveTo(currentIndex - 1);
+        else if (event.key === Qt.Key_Down)
+            moveTo(currentIndex + 1);
+        else if (event.key === Qt.Key_Home)
+            moveTo(0);
+        else if (event.key === Qt.Key_End)
+            moveTo(count - 1);
+        else if (event.key === Qt.Key_PageUp)
+            moveTo(currentIndex - page);
+        else if (event.key === Qt.Key_PageDown)
+            moveTo(currentIndex + page);
+        else if ((event.key === Qt.Key_Return || event.key === Qt.Key_Enter) && currentIndex >= 0)
+            activated(currentIndex);
+        else if (event.text > " " && !(event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier)))
+            typed.add(event.text);
+        else
+            event.accepted = event.key === Qt.Key_Space && typed.running && typed.add(" ");
+    }
+
+    Timer {
+        id: typed
+
+        property string letters
+
+        function add(text: string): bool {
+            const again = running && letters === text;
+            // The same letter again walks through the rows that begin with it.
+            letters = again ? text : running ? letters + text : text;
+            restart();
+            control.find(letters);
+            return true;
+        }
+
+        interval: 1000
+    }
+
+    DelegateModel {
+        id: rows
+
+        delegate: ItemDelegate {
+            required property var model
+            required property int index
+
+            width: view.width
+            text: model[control.textRole || "modelData"] ?? ""
+            highlighted: ListView.isCurrentItem
+            focusPolicy: Qt.NoFocus
+            onPressed: {
+                control.forceActiveFocus();
+                control.currentIndex = index;
+            }
+            onDoubleClicked: control.activated(index)
+        }
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        radius: Metrics.radius
+        color: control.enabled ? Colors.input : "transparent"
+        border.width: control.activeFocus ? 2 : 1
+        border.color: control.activeFocus ? Colors.focus : control.enabled ? Colors.outline : Colors.separator
+    }
+    ListView {
+        id: view
+
+        anchors.fill: parent
+        anchors.margins: 2
+        clip: true
+        focus: true
+        model: rows
+        keyNavigationEnabled: false
+        boundsBehavior: Flickable.StopAtBounds
+        highlightMoveDuration: 0
+        highlightResizeDuration: 0
+        ScrollBar.vertical: ScrollBar {}
+    }
+}

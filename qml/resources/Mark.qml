@@ -1,0 +1,41 @@
+import QtQuick
+import QtQuick.Shapes
+import Tandolin.API.Core.Themes
+
+// One of the marks of MarkPaths in a colour; an unknown name draws nothing.
+Item {
+    id: root
+
+    property string name
+    property color color: enabled ? Colors.text : Colors.textDisabled
+    property real lineWidth: 1.3
+
+    implicitWidth: Metrics.markSize
+    implicitHeight: Metrics.markSize
+
+    Shape {
+        id: shape
+
+        width: 16
+        height: 16
+        anchors.centerIn: parent
+        scale: Math.min(root.width, root.height) / 16
+        visible: root.name in MarkPaths.outlines
+        // Without samples of its own the outline is drawn with stairs.
+        layer.enabled: true
+        layer.samples: 4
+        layer.textureSize: Qt.size(Math.ceil(16 * scale * Screen.devicePixelRatio), Math.ceil(16 * scale * Screen.devicePixelRatio))
+
+        ShapePath {
+            strokeColor: root.color
+            strokeWidth: root.lineWidth
+            fillColor: "transparent"
+            capStyle: ShapePath.RoundCap
+            joinStyle: ShapePath.RoundJoin
+
+            PathSvg {
+                path: MarkPaths.outlines[root.name] ?? ""
+            }
+        }
+    }
+}

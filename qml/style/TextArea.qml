@@ -1,0 +1,47 @@
+import QtQuick
+import QtQuick.Templates as T
+import Tandolin.API.Core.Themes
+
+T.TextArea {
+    id: control
+
+    implicitWidth: Math.max(implicitBackgroundWidth, contentWidth + leftPadding + rightPadding)
+    implicitHeight: Math.max(implicitBackgroundHeight, contentHeight + topPadding + bottomPadding)
+    padding: Metrics.padding
+    topPadding: 4
+    bottomPadding: 4
+    selectByMouse: true
+    color: enabled ? Colors.text : Colors.textDisabled
+    placeholderTextColor: enabled ? Colors.textSecondary : Colors.textDisabled
+    selectionColor: Colors.selection
+    selectedTextColor: Colors.text
+    font.pointSize: Metrics.fontSize
+    font.hintingPreference: Metrics.hinting
+    renderType: Metrics.renderType
+
+    onReleased: event => {
+        if (event.button === Qt.RightButton)
+            menu.popup();
+    }
+
+    Text {
+        x: control.leftPadding
+        y: control.topPadding
+        width: control.width - control.leftPadding - control.rightPadding
+        visible: !control.length && !control.preeditText
+        text: control.placeholderText
+        color: control.placeholderTextColor
+        font: control.font
+        renderType: control.renderType
+        elide: Text.ElideRight
+    }
+    EditMenu {
+        id: menu
+
+        control: control
+    }
+    background: FieldSurface {
+        control: control
+        hovered: control.hovered
+    }
+}

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "velm/bridge/qtcontrollerwrapper.h"
+#include "velm/bridge/qtwindowparent.h"
+#include "velm/bridge/urlandcontroller.h"
+#include "velm/dialogs/addrenamedialogcontroller.h"
+#include "velm/dialogs/basedialogcontroller.h"
+#include "velm/dialogs/basepopupcontroller.h"
+#include "velm/dialogs/namedialogcontroller.h"
+#include "velm/units/qtfontconfig.h"
+#include "velm/units/settings.h"
+
+#include <QtQml/qqmlregistration.h>
+
+/// The types of the library as QML sees them. The library registers nothing by itself.
+namespace velmqml
+{
+/// The singletons come from their own factories, which keep them out of the engine's hands.
+struct SettingsType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::Settings)
+    QML_NAMED_ELEMENT(Settings)
+    QML_SINGLETON
+};
+
+struct QtFontConfigType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::QtFontConfig)
+    QML_NAMED_ELEMENT(QtFontConfig)
+    QML_SINGLETON
+};
+
+struct BaseDialogControllerType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::BaseDialogController)
+    QML_NAMED_ELEMENT(BaseDialogController)
+    QML_UNCREATABLE("A dialog controller comes from the host.")
+};
+
+struct BasePopupControllerType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::BasePopupController)
+    QML_NAMED_ELEMENT(BasePopupController)
+    QML_UNCREATABLE("A popup controller comes from the host.")
+};
+
+struct NameDialogControllerType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::NameDialogController)
+    QML_NAMED_ELEMENT(NameDialogController)
+    QML_UNCREATABLE("A dialog controller comes from the host.")
+};
+
+struct AddRenameDialogControllerType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::AddRenameDialogController)
+    QML_NAMED_ELEMENT(AddRenameDialogController)
+    QML_UNCREATABLE("A dialog controller comes from the host.")
+};
+
+struct QtControllerWrapperType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::QtControllerWrapper)
+    QML_NAMED_ELEMENT(QtControllerWrapper)
+    QML_UNCREATABLE("The host wraps its controllers.")
+};
+
+struct QtWindowParentType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::QtWindowParent)
+    QML_NAMED_ELEMENT(QtWindowParent)
+    QML_UNCREATABLE("The host knows its windows.")
+};
+
+struct UrlAndControllerType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::UrlAndController)
+    QML_VALUE_TYPE(urlAndController)
+};
+}

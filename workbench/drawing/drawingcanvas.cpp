@@ -1,0 +1,135 @@
+#include "drawing/drawingcanvas.h"
+
+#include <wx/dcbuffer.h>
+#include <wx/graphics.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace workbench {
+
+DrawingCanvas::DrawingCanvas(wxWindow* parent)
+    : wxPanel(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxWANTS_CHARS | wxFULL_REPAINT_ON_RESIZE)
+{
+    SetBackgroundStyle(wxBG_STYLE_PAINT);
+    SetCursor(wxCursor(wxCURSOR_CROSS));
+    fit();
+    Bind(wxEVT_PAINT, [this](wxPaintEvent&) { paint(); });
+    Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+        m_view.size = GetClientSize();
+        if (m_isFitted)
+            fit();
+        Refresh();
+        event.Skip();
+    });
+    Bind(wxEVT_MOUSEWHEEL, [this](wxMouseEvent& event) {
+        constexpr double step = 1.2;
+        if (event.GetWheelAxis() == wxMOUSE_WHEEL_VERTICAL && event.GetWheelDelta() != 0)
+            zoomBy(std::pow(step, static_cast<double>(event.GetWheelRotation()) / event.GetWheelDelta()),
+                   event.GetPosition());
+    });
+    for (const auto& type : {wxEVT_MIDDLE_DOWN, wxEVT_LEFT_DOWN, wxEVT_MOTION, wxEVT_MIDDLE_UP, wxEVT_LEFT_UP})
+        Bind(type, &DrawingCanvas::trackMouse, this);
+    Bind(wxEVT_MIDDLE_DCLICK, [this](wxMouseEvent&) { zoomExtents(); });
+    Bind(wxEVT_MOUSE_CAPTURE_LOST, [this](wxMouseCaptureLostEvent&) { m_isPanning = false; });
+}
+
+void DrawingCanvas::setDatabase(OdDbDatabase* database)
+{
+    m_database = database;
+    refreshDrawing();
+    zoomExtents();
+}
+
+void DrawingCanvas::refreshDrawing()
+{
+    m_tessellation = m_database ? tessellate(*m_database) : Tessellation();
+    Refresh();
+}
+
+void DrawingCanvas::zoomExtents()
+{
+    m_isFitted = true;
+    fit();
+    Refresh();
+}
+
+void DrawingCanvas::fit()
+{
+    constexpr double filled = 0.92;         // of the canvas
+    constexpr double smallestExtent = 10.0; // units, for drawings that are all in one place
+    m_view.size = GetClientSize();
+    const Box& box = m_tessellation.box;
+    m_view.center =
+        box.isEmpty() ? OdGePoint3d() : OdGePoint3d{(box.left + box.right) / 2.0, (box.bottom + box.top) / 2.0, 0.0};
+    double width = box.isEmpty() ? 0.0 : box.right - box.left;
+    double height = box.isEmpty() ? 0.0 : box.top - box.bottom;
+    // What is smaller than the precision of its coordinates is one place.
+    if (std::max(width, height) <= 1e-12 * std::max({std::abs(m_view.center.x), std::abs(m_view.center.y), 1.0}))
+        width = height = smallestExtent;
+    const double perUnitX = width > 0.0 ? std::max(m_view.size.x, 1) / width : INFINITY;
+    const double perUnitY = height > 0.0 ? std::max(m_view.size.y, 1) / height : INFINITY;
+    m_view.scale = filled * std::min(perUnitX, perUnitY);
+}
+
+void DrawingCanvas::zoomBy(double factor, wxPoint center)
+{
+    constexpr double smallestScale = 1e-15;
+    constexpr double largestScale = 1e12;
+    const double scale = m_view.scale * factor;
+    if (!(scale >= smallestScale && scale <= largestScale))
+        return;
+    const OdGePoint3d fixed = m_view.toWorld(center.x, center.y);
+    m_view.scale = scale;
+    const OdGePoint3d moved = m_view.toWorld(center.x, center.y);
+    m_view.center = m_view.center + (fixed - moved);
+    m_isFitted = false;
+    Refresh();
+}
+
+void DrawingCanvas::panBy(wxPoint pixels)
+{
+    m_view.center.x -= pixels.x / m_view.scale;
+    m_view.center.y += pixels.y / m_view.scale;
+    m_isFitted = false;
+    Refresh();
+}
+
+void DrawingCanvas::paint()
+{
+    wxAutoBufferedPaintDC dc(this);
+    const wxColour colour = background ? background() : wxColour(33, 37, 41);
+    dc.SetBackground(wxBrush(colour));
+    dc.Clear();
+    const std::unique_ptr<wxGraphicsContext> context(wxGraphicsContext::Create(dc));
+    m_drawnEntityCount = DrawingPainter(*context, m_view, colour).paint(m_tessellation);
+}
+
+void DrawingCanvas::trackMouse(wxMouseEvent& event)
+{
+    const wxPoint position = event.GetPosition();
+    const bool isPanButton = event.MiddleDown() || (event.LeftDown() && wxGetKeyState(WXK_SPACE));
+    if (isPanButton && !m_isPanning) {
+        m_isPanning = true;
+        CaptureMouse();
+    } else if (event.MiddleUp() || event.LeftUp()) {
+        endPan();
+    } else if (m_isPanning && event.Dragging()) {
+        panBy(position - m_lastMouse);
+    }
+    m_lastMouse = position;
+    if (event.Moving() || event.Dragging()) {
+        if (onCursorMoved)
+            onCursorMoved(m_view.toWorld(position.x, position.y));
+    }
+    event.Skip();
+}
+
+void DrawingCanvas::endPan()
+{
+    m_isPanning = false;
+    if (HasCapture())
+        ReleaseMouse();
+}
+
+} // namespace workbench

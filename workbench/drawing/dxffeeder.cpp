@@ -1,0 +1,279 @@
+#include "drawing/dxffeeder.h"
+
+#include <algorithm>
+#include <array>
+
+namespace workbench {
+
+namespace {
+
+// dxflib cuts lines off at 1023 bytes and then reads what follows as a group code.
+constexpr std::size_t longestValue = 1000;
+constexpr int lastCode = 999; // what stands above are the private data of applications
+
+bool isOneOf(std::string_view type, std::initializer_list<std::string_view> types)
+{
+    return std::find(types.begin(), types.end(), type) != types.end();
+}
+
+bool isEntity(std::string_view type)
+{
+    return isOneOf(type, {"POINT", "LINE", "POLYLINE", "LWPOLYLINE", "VERTEX", "SEQEND", "SPLINE", "ARC", "ELLIPSE",
+                          "CIRCLE", "INSERT", "TEXT", "MTEXT", "ATTRIB", "LEADER", "TRACE", "SOLID", "3DFACE"});
+}
+
+/// Replaces the counts of points, which nobody can trust: the code of the count, and of the groups that it counts.
+std::vector<std::pair<int, int>> countsOf(std::string_view type)
+{
+    if (type == "LWPOLYLINE")
+        return {{90, 10}};
+    if (type == "SPLINE")
+        return {{72, 40}, {73, 10}, {74, 11}};
+    if (type == "LEADER")
+        return {{76, 10}};
+    return {};
+}
+
+std::wstring lowered(const std::wstring& name)
+{
+    return OdString(name).makeLower().wide();
+}
+
+} // namespace
+
+bool DxfFeeder::feed(const std::function<bool(double share)>& progress)
+{
+    std::size_t nextReport = 0;
+    for (std::size_t start = 0; start < m_groups.size();) {
+        if (start >= nextReport) {
+            if (!progress(static_cast<double>(start) / static_cast<double>(m_groups.size())))
+                return false;
+            nextReport = start + m_groups.size() / 100 + 1;
+        }
+        const Range range = objectAt(start);
+        feedObject(range);
+        start = range.second;
+    }
+    addLayouts();
+    checkNesting();
+    return true;
+}
+
+DxfFeeder::Range DxfFeeder::objectAt(std::size_t start) const
+{
+    std::size_t end = start + 1;
+    while (end < m_groups.size() && m_groups[end].code != 0)
+        ++end;
+    return {start, end};
+}
+
+void DxfFeeder::feedObject(const Range& range)
+{
+    const DxfGroup& first = m_groups[range.first];
+    const std::string_view type = first.value;
+    if (first.code == 0 && type == "SECTION") {
+        m_section = valueOf(range, 2);
+        feedGroup(0, type);
+        if (m_section == "HEADER") // all of its variables are a part of this object
+            for (std::size_t i = range.first + 2; i < range.second; ++i)
+                feedValue(type, m_groups[i]);
+    } else if (first.code == 0 && isOneOf(type, {"ENDSEC", "EOF"})) {
+        feedGroup(0, type);
+        m_builder.endBlock();
+        m_section = {};
+    } else if (m_section == "TABLES" && isOneOf(type, {"LAYER", "LTYPE", "STYLE"})) {
+        for (std::size_t i = range.first; i < range.second; ++i)
+            feedValue(type, m_groups[i]);
+    } else if (m_section == "TABLES" || m_section == "OBJECTS") {
+        noteRecord(range, type);
+    } else if (m_section == "BLOCKS" || m_section == "ENTITIES") {
+        noteNesting(range, type);
+        feedEntity(range, type);
+    }
+}
+
+void DxfFeeder::feedEntity(const Range& range, std::string_view type)
+{
+    const bool isBlockMark = m_section == "BLOCKS" && isOneOf(type, {"BLOCK", "ENDBLK"});
+    if (type == "DIMENSION" && !valueOf(range, 2).empty()) {
+        feedDimension(range);
+    } else if (!isBlockMark && !isEntity(type)) {
+        ++m_skipped[std::string(type)];
+        feedGroup(0, "SKIPPED");
+    } else {
+        feedGroup(0, type);
+        feedCounts(range, type);
+        bool hasPoint = false;
+        for (std::size_t i = range.first + 1; i < range.second; ++i) {
+            hasPoint = hasPoint || m_groups[i].code == 10;
+            // A bulge before the first vertex would be written in front of dxflib's array.
+            if (type != "LWPOLYLINE" || m_groups[i].code != 42 || hasPoint)
+                feedValue(type, m_groups[i]);
+        }
+    }
+}
+
+void DxfFeeder::feedCounts(const Range& range, std::string_view type)
+{
+    for (const auto& [countCode, code] : countsOf(type)) {
+        const auto count = std::count_if(m_groups.begin() + static_cast<std::ptrdiff_t>(range.first),
+                                         m_groups.begin() + static_cast<std::ptrdiff_t>(range.second),
+                                         [counted = code](const DxfGroup& group) { return group.code == counted; });
+        feedGroup(countCode, std::to_string(count));
+    }
+}
+
+void DxfFeeder::feedDimension(const Range& range)
+{
+    // A dimension names the block of the lines and texts that show it.
+    feedGroup(0, "INSERT");
+    for (std::size_t i = range.first + 1; i < range.second; ++i)
+        if (const int code = m_groups[i].code;
+            code == 2 || code == 6 || code == 8 || code == 62 || code == 67 || code == 370 || code == 420)
+            feedGroup(code, m_groups[i].value);
+}
+
+void DxfFeeder::feedValue(std::string_view type, const DxfGroup& group)
+{
+    constexpr int thickness = 39; // which dxflib takes for a lineweight
+    constexpr int variable = 9;   // which dxflib takes for the end of any object
+    if (group.code >= lastCode || (m_section != "HEADER" && (group.code == variable || group.code == thickness)))
+        return;
+    for (const auto& [countCode, code] : countsOf(type))
+        if (group.code == countCode)
+            return;
+    std::string_view value = group.value;
+    if (type == "MTEXT" && (group.code == 1 || group.code == 3))
+        for (; value.size() > longestValue; value.remove_prefix(longestValue))
+            feedGroup(3, value.substr(0, longestValue));
+    feedGroup(group.code, value.substr(0, longestValue));
+}
+
+void DxfFeeder::feedGroup(int code, std::string_view value)
+{
+    m_lines = std::to_string(code);
+    m_lines += '\n';
+    m_lines += value;
+    m_lines += '\n';
+    m_buffer.setText(m_lines);
+    m_stream.clear();
+    m_dxf.readDxfGroups(m_stream, &m_builder);
+}
+
+void DxfFeeder::noteRecord(const Range& range, std::string_view type)
+{
+    feedGroup(0, "SKIPPED");
+    const std::string_view name = valueOf(range, 2);
+    if (type == "DIMSTYLE" && !name.empty())
+        m_builder.database().addDimStyle(m_builder.text(name));
+    else if (type == "BLOCK_RECORD")
+        m_blockNames[valueOf(range, 5)] = m_builder.text(name);
+    else if (type == "LAYOUT")
+        noteLayout(range);
+}
+
+void DxfFeeder::noteLayout(const Range& range)
+{
+    bool inLayout = false;
+    std::wstring name;
+    std::wstring block;
+    for (std::size_t i = range.first; i < range.second; ++i) {
+        const DxfGroup& group = m_groups[i];
+        if (group.code == 100)
+            inLayout = group.value == "AcDbLayout";
+        else if (inLayout && group.code == 1)
+            name = m_builder.text(group.value);
+        else if (inLayout && group.code == 330)
+            block = m_blockNames[group.value];
+    }
+    if (!name.empty())
+        m_layouts.emplace_back(name, block);
+}
+
+void DxfFeeder::addLayouts()
+{
+    OdDbDatabase& database = m_builder.database();
+    // The one that every database has takes its name first, since another may have its old one.
+    std::stable_partition(m_layouts.begin(), m_layouts.end(),
+                          [](const auto& layout) { return lowered(layout.second) == L"*paper_space"; });
+    for (const auto& [name, blockName] : m_layouts) {
+        OdDbBlockTableRecord* block = database.findBlock(blockName);
+        if (!block || block == database.modelSpace())
+            continue;
+        if (auto* layout = block->getLayoutId().open<OdDbLayout>())
+            database.rename(*layout, name);
+        else
+            database.addLayout(name, block);
+    }
+}
+
+std::string_view DxfFeeder::valueOf(const Range& range, int code) const
+{
+    for (std::size_t i = range.first + 1; i < range.second; ++i)
+        if (m_groups[i].code == code)
+            return m_groups[i].value;
+    return {};
+}
+
+std::wstring DxfFeeder::blockName(std::string_view value) const
+{
+    return lowered(m_builder.text(value));
+}
+
+void DxfFeeder::noteNesting(const Range& range, std::string_view type)
+{
+    if (m_section != "BLOCKS")
+        return;
+    if (type == "BLOCK")
+        m_block = blockName(valueOf(range, 2));
+    else if (isOneOf(type, {"INSERT", "DIMENSION"}))
+        for (std::size_t i = range.first; i < range.second; ++i)
+            if (m_groups[i].code == 2)
+                m_nestings[m_block].push_back({blockName(m_groups[i].value), i});
+}
+
+void DxfFeeder::checkNesting() const
+{
+    enum class State
+    {
+        Unknown,
+        Open, // on the way from the block that the search began with
+        Done,
+    };
+    struct Step
+    {
+        std::wstring block;
+        std::size_t next = 0; // of its nestings
+    };
+    static const std::vector<Nesting> none;
+    std::map<std::wstring, State> states;
+    const auto nestingsOf = [this](const std::wstring& block) -> const std::vector<Nesting>& {
+        const auto found = m_nestings.find(block);
+        return found == m_nestings.end() ? none : found->second;
+    };
+    for (const auto& [start, unused] : m_nestings) {
+        std::vector<Step> way; // not a recursion: a file may nest as deep as it likes
+        if (states[start] == State::Unknown)
+            way.push_back({start});
+        while (!way.empty()) {
+            const std::wstring block = way.back().block;
+            states[block] = State::Open;
+            const std::vector<Nesting>& nestings = nestingsOf(block);
+            if (way.back().next == nestings.size()) {
+                states[block] = State::Done;
+                way.pop_back();
+                continue;
+            }
+            const Nesting& nesting = nestings[way.back().next++];
+            if (states[nesting.block] == State::Open) {
+                const std::string name = OdString(m_builder.text(m_groups[nesting.group].value)).utf8();
+                throw DxfError("line " + std::to_string(2 * nesting.group + 2) + " inserts block \"" + name +
+                               (nesting.block == block ? "\" into itself." : "\" into one of its own parts."));
+            }
+            if (states[nesting.block] == State::Unknown)
+                way.push_back({nesting.block});
+        }
+    }
+}
+
+} // namespace workbench

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "drawing/databasebuilder.h"
+#include "drawing/dxfgroups.h"
+
+#include <dxflib/dl_dxf.h>
+
+#include <istream>
+#include <streambuf>
+
+namespace workbench {
+
+/// Hands a checked file to dxflib group by group, and only what it understands: counts are those of the points that are
+/// there, not those that the file claims. Dimension styles and layouts, which dxflib doesn't report, go to the
+/// builder's database from here.
+class DxfFeeder
+{
+public:
+    DxfFeeder(const DxfGroups& groups, DatabaseBuilder& builder) : m_groups(groups.groups), m_builder(builder) {}
+
+    /// False when `progress`, which gets the share from 0 to 1, cancelled it. Throws DxfError for a block that contains
+    /// itself.
+    bool feed(const std::function<bool(double share)>& progress);
+
+    const std::map<std::string, int>& skipped() const { return m_skipped; }
+
+private:
+    /// An insert in the definition of a block.
+    struct Nesting
+    {
+        std::wstring block;    // in lower case
+        std::size_t group = 0; // that names it
+    };
+    using Range = std::pair<std::size_t, std::size_t>; // of groups, from the one with code 0 to behind the last
+
+    Range objectAt(std::size_t start) const;
+    void feedObject(const Range& range);
+    void feedEntity(const Range& range, std::string_view type);
+    void feedCounts(const Range& range, std::string_view type);
+    void feedDimension(const Range& range);
+    void feedValue(std::string_view type, const DxfGroup& group);
+    void feedGroup(int code, std::string_view value);
+    void noteRecord(const Range& range, std::string_view type);
+    void noteLayout(const Range& range);
+    void addLayouts();
+    void noteNesting(const Range& range, std::string_view type);
+    void checkNesting() const;
+    std::string_view valueOf(const Range& range, int code) const;
+    std::wstring blockName(std::string_view value) const;
+
+    class LineBuffer : public std::streambuf
+    {
+    public:
+        void setText(std::string& text) { setg(text.data(), text.data(), text.data() + text.size()); }
+    };
+
+    const std::vector<DxfGroup>& m_groups;
+    DatabaseBuilder& m_builder;
+    DL_Dxf m_dxf;
+    LineBuffer m_buffer;
+    std::istream m_stream{&m_buffer};
+    std::string m_lines; // what m_buffer reads
+    std::string_view m_section;
+    std::map<std::string, int> m_skipped;
+    std::map<std::string_view, std::wstring> m_blockNames;        // by handle
+    std::vector<std::pair<std::wstring, std::wstring>> m_layouts; // their names and those of their blocks
+    std::wstring m_block;                                         // the one being defined, in lower case
+    std::map<std::wstring, std::vector<Nesting>> m_nestings;      // by the block that contains them
+};
+
+} // namespace workbench

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace workbench {
+
+/// What is wrong with a drawing file: the end of a sentence, in UTF-8, without the file's name.
+class DxfError : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// One pair of lines: a group code and its value, without the white space around it.
+struct DxfGroup
+{
+    int code = 0;
+    std::string_view value;
+};
+
+/// The groups of a DXF text file, checked: whole, in sections, with a finite number wherever one has to stand.
+/// Group i stands on the lines 2i+1 (its code) and 2i+2 (its value).
+/// Not supported: binary DXF, files above 1 GB.
+struct DxfGroups
+{
+    std::string text;             ///< what the values point into
+    std::vector<DxfGroup> groups; ///< the last one is the end mark
+    bool isUtf8 = true;           ///< otherwise the text is in the western code page
+    bool cancelled = false;
+
+    DxfGroups() = default;
+    DxfGroups(const DxfGroups&) = delete;
+    DxfGroups& operator=(const DxfGroups&) = delete;
+};
+
+/// Reads and checks a file into `result`; throws DxfError. `progress` gets the share from 0 to 1 and returns false to
+/// cancel.
+void loadDxfGroups(const std::filesystem::path& file, const std::function<bool(double share)>& progress,
+                   DxfGroups& result);
+
+} // namespace workbench
