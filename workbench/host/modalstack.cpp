@@ -1,5 +1,6 @@
 #include "host/modalstack.h"
 
+#include <wx/app.h>
 #include <wx/dialog.h>
 
 #include <algorithm>
@@ -22,6 +23,13 @@ bool ModalStack::blocks(const wxWindow& window) const
     while (ancestor && ancestor != top())
         ancestor = ancestor->GetParent();
     return top() && !ancestor;
+}
+
+wxWindow* ModalStack::parentFor(wxWindow* window) const
+{
+    if (window)
+        return window;
+    return top() ? top() : wxTheApp->GetTopWindow();
 }
 
 int ModalStack::Enter(wxDialog* dialog)

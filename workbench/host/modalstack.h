@@ -22,6 +22,9 @@ public:
     wxDialog* top() const { return m_dialogs.empty() ? nullptr : m_dialogs.back(); }
     /// Whether a modal dialog runs that the window isn't part of.
     bool blocks(const wxWindow& window) const;
+    /// The window over which a dialog belongs that was asked for without one: the innermost modal dialog, or the
+    /// program's frame. A window that is given stays.
+    wxWindow* parentFor(wxWindow* window) const;
 
     std::function<void()> onChanged;
 

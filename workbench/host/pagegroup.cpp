@@ -33,6 +33,12 @@ bool PageGroup::isBlocked(const PagePanel& page) const
     return m_busy || m_modals.blocks(page);
 }
 
+void PageGroup::applyTheme()
+{
+    for (PagePanel* page : m_pages)
+        page->applyTheme();
+}
+
 void PageGroup::add(PagePanel* page)
 {
     m_pages.push_back(page);

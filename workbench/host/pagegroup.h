@@ -28,6 +28,9 @@ public:
     void setBusy(bool busy);
     bool isBlocked(const PagePanel& page) const;
 
+    /// The pages' windows follow a change of theme; what is in them does so by itself.
+    void applyTheme();
+
     void add(PagePanel* page);
     void remove(PagePanel* page);
     const std::vector<PagePanel*>& pages() const { return m_pages; }

@@ -131,6 +131,8 @@ void PagePanel::reload(int)
         m_view->setRoot(std::move(root));
     else
         showNote();
+    if (onLoaded)
+        onLoaded();
 }
 
 void PagePanel::showNote()
@@ -141,6 +143,13 @@ void PagePanel::showNote()
                                  {QStringLiteral("warningColor"), qtGuiColour(ut::EGuiColor::Red)}};
     m_view->setRoot(
         create(*m_group.engine(), QUrl(QStringLiteral("qrc:/qt/qml/Workbench/PageNote.qml")), properties).first);
+}
+
+void PagePanel::applyTheme()
+{
+    m_view->setColor(qtGuiColour(ut::EGuiColor::PanelBackground));
+    if (!m_error.isEmpty())
+        showNote();
 }
 
 void PagePanel::updateBlocking()

@@ -11,6 +11,7 @@
 #include <wx/accel.h>
 #include <wx/panel.h>
 
+#include <functional>
 #include <memory>
 
 class QKeyEvent;
@@ -39,7 +40,9 @@ public:
     const QString& error() const { return m_error; }
     /// What the page asks for, in the host's pixels; empty when it doesn't say.
     wxSize implicitSize() const;
+    std::function<void()> onLoaded; ///< a page, or the note in its place, was loaded anew
     void updateBlocking();
+    void applyTheme();
     /// Gives the keyboard to the page.
     void focusPage();
 

@@ -1,0 +1,1 @@
+#include "tour/driver.h"
