@@ -31,7 +31,10 @@ endif()
 
 # velm_target_defaults(TARGET): warnings are errors, and no Qt keywords, since GTK and X11 headers come near.
 function(velm_target_defaults target)
+  # moc stumbles over the concepts of the standard library, so it is told that it has read them.
+  # Appended: a QML module has options for moc already.
   set_target_properties(${target} PROPERTIES AUTOMOC ON)
+  set_property(TARGET ${target} APPEND PROPERTY AUTOMOC_MOC_OPTIONS -D_GLIBCXX_CONCEPTS)
   target_compile_definitions(${target} PRIVATE QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII QT_DISABLE_DEPRECATED_BEFORE=0x060400)
   target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Werror -fpch-preprocess)
 endfunction()

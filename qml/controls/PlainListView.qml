@@ -11,9 +11,9 @@ FocusScope {
 
     property alias model: rows.model
     property alias delegate: rows.delegate
-    property alias currentIndex: view.currentIndex
-    readonly property alias count: view.count
-    readonly property alias view: view
+    property alias currentIndex: list.currentIndex
+    readonly property alias count: list.count
+    readonly property alias view: list
     property string textRole
 
     // The user chose the row by Enter or a double click.
@@ -27,10 +27,10 @@ FocusScope {
         return value === undefined ? "" : String(value);
     }
 
-    function find(letters: string) {
+    function find(letters) {
         const wanted = letters.toLowerCase();
         // One letter goes on from the current row; more of them may still match it.
-        const first = Math.max(0, currentIndex) + (wanted.length === 1 && currentIndex >= 0 ? 1 : 0);
+        const first = Math.max(0, wanted.length > 1 ? currentIndex : currentIndex + 1);
         for (let step = 0; step < count; ++step) {
             const row = (first + step) % count;
             if (textAt(row).toLowerCase().startsWith(wanted)) {
@@ -46,7 +46,7 @@ FocusScope {
     }
 
     Keys.onPressed: event => {
-        const page = Math.max(1, Math.floor(view.height / Metrics.rowHeight) - 1);
+        const page = Math.max(1, Math.floor(list.height / Metrics.rowHeight) - 1);
         event.accepted = true;
         if (event.key === Qt.Key_Up)
             moveTo(currentIndex - 1);
@@ -88,11 +88,12 @@ FocusScope {
     DelegateModel {
         id: rows
 
+        // qmllint disable unqualified
         delegate: ItemDelegate {
             required property var model
             required property int index
 
-            width: view.width
+            width: ListView.view.width
             text: model[control.textRole || "modelData"] ?? ""
             highlighted: ListView.isCurrentItem
             focusPolicy: Qt.NoFocus
@@ -102,6 +103,7 @@ FocusScope {
             }
             onDoubleClicked: control.activated(index)
         }
+        // qmllint enable unqualified
     }
 
     Rectangle {
@@ -112,7 +114,7 @@ FocusScope {
         border.color: control.activeFocus ? Colors.focus : control.enabled ? Colors.outline : Colors.separator
     }
     ListView {
-        id: view
+        id: list
 
         anchors.fill: parent
         anchors.margins: 2

@@ -16,19 +16,20 @@ Item {
     Shape {
         id: shape
 
-        width: 16
-        height: 16
+        readonly property real factor: Math.min(root.width, root.height) / 16
+
+        width: 16 * factor
+        height: 16 * factor
         anchors.centerIn: parent
-        scale: Math.min(root.width, root.height) / 16
         visible: root.name in MarkPaths.outlines
         // Without samples of its own the outline is drawn with stairs.
         layer.enabled: true
         layer.samples: 4
-        layer.textureSize: Qt.size(Math.ceil(16 * scale * Screen.devicePixelRatio), Math.ceil(16 * scale * Screen.devicePixelRatio))
 
         ShapePath {
             strokeColor: root.color
-            strokeWidth: root.lineWidth
+            strokeWidth: root.lineWidth * shape.factor
+            scale: Qt.size(shape.factor, shape.factor)
             fillColor: "transparent"
             capStyle: ShapePath.RoundCap
             joinStyle: ShapePath.RoundJoin

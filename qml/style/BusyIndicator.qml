@@ -10,8 +10,6 @@ T.BusyIndicator {
     padding: 2
 
     contentItem: Item {
-        id: dots
-
         visible: control.running
 
         RotationAnimator on rotation {
@@ -24,19 +22,19 @@ T.BusyIndicator {
         Repeater {
             model: 8
 
-            Rectangle {
+            Item {
                 required property int index
 
-                x: dots.width / 2 - width / 2
-                width: Math.max(2, dots.width / 7)
-                height: width
-                radius: width / 2
-                color: Colors.accent
+                anchors.fill: parent
+                rotation: index * 45
                 opacity: (index + 1) / 8
-                transform: Rotation {
-                    origin.x: dots.width / 2 - x
-                    origin.y: dots.height / 2
-                    angle: index * 45
+
+                Rectangle {
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    width: Math.max(2, parent.width / 7)
+                    height: width
+                    radius: width / 2
+                    color: Colors.accent
                 }
             }
         }

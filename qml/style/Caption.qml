@@ -31,7 +31,8 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         width: root.control.icon.width
         height: root.control.icon.height
-        sourceSize: Qt.size(width, height)
+        sourceSize.width: width
+        sourceSize.height: height
         source: root.control.icon.source
         color: root.control.icon.color
         opacity: root.control.enabled ? 1 : 0.4

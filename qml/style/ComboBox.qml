@@ -13,6 +13,7 @@ T.ComboBox {
     font.pointSize: Metrics.fontSize
     font.hintingPreference: Metrics.hinting
 
+    // qmllint disable unqualified
     delegate: ItemDelegate {
         required property var model
         required property int index
@@ -23,6 +24,7 @@ T.ComboBox {
         highlighted: control.highlightedIndex === index
         hoverEnabled: control.hoverEnabled
     }
+    // qmllint enable unqualified
     indicator: Mark {
         x: control.mirrored ? 4 : control.width - width - 4
         y: (control.height - height) / 2

@@ -4,7 +4,7 @@ import QtQuick
 Menu {
     id: menu
 
-    required property Item control
+    required property var control
 
     MenuItem {
         text: qsTr("Cu&t")

@@ -9,19 +9,25 @@ T.ProgressBar {
     implicitHeight: 6
 
     contentItem: Item {
-        clip: control.indeterminate
+        clip: true
 
         Rectangle {
-            id: bar
-
-            width: (control.indeterminate ? 0.3 : control.visualPosition) * parent.width
+            width: control.visualPosition * parent.width
             height: parent.height
             radius: 3
+            visible: !control.indeterminate
+            color: control.enabled ? Colors.accent : Colors.border
+        }
+        Rectangle {
+            width: 0.3 * parent.width
+            height: parent.height
+            radius: 3
+            visible: control.indeterminate
             color: control.enabled ? Colors.accent : Colors.border
 
-            XAnimator on x {
-                from: -bar.width
-                to: control.width
+            NumberAnimation on x {
+                from: -0.3 * control.availableWidth
+                to: control.availableWidth
                 duration: 1200
                 loops: Animation.Infinite
                 running: control.indeterminate && control.visible

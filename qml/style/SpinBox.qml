@@ -13,7 +13,6 @@ T.SpinBox {
     font.pointSize: Metrics.fontSize
     font.hintingPreference: Metrics.hinting
     validator: IntValidator {
-        locale: control.locale.name
         bottom: Math.min(control.from, control.to)
         top: Math.max(control.from, control.to)
     }

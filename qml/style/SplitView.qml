@@ -5,6 +5,7 @@ import Tandolin.API.Core.Themes
 T.SplitView {
     id: control
 
+    // qmllint disable unqualified
     handle: Item {
         implicitWidth: control.orientation === Qt.Horizontal ? 6 : control.width
         implicitHeight: control.orientation === Qt.Horizontal ? control.height : 6
@@ -18,4 +19,5 @@ T.SplitView {
             color: used ? Colors.accent : Colors.border
         }
     }
+    // qmllint enable unqualified
 }

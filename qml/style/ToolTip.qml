@@ -8,7 +8,7 @@ T.ToolTip {
 
     x: parent ? Math.round((parent.width - implicitWidth) / 2) : 0
     y: parent ? parent.height + 4 : 0
-    implicitWidth: Math.min(360, Math.ceil(measure.implicitWidth) + leftPadding + rightPadding)
+    implicitWidth: Math.min(360, implicitContentWidth + leftPadding + rightPadding)
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     margins: 4
     horizontalPadding: Metrics.padding
@@ -22,14 +22,6 @@ T.ToolTip {
         text: control.text
         font: control.font
         wrapMode: Text.Wrap
-
-        Label {
-            id: measure
-
-            visible: false
-            text: control.text
-            font: control.font
-        }
     }
     background: PopupSurface {}
 }

@@ -7,8 +7,11 @@ import Tandolin
 QtObject {
     readonly property real fontSize: 9
     readonly property real smallFontSize: 8
+    // The tools don't know the enumerations of these two.
+    // qmllint disable
     readonly property int hinting: QtFontConfig.defaultHintingPreference
     readonly property int renderType: QtFontConfig.defaultRenderType
+    // qmllint enable
 
     readonly property int rowHeight: 24
     readonly property int controlHeight: 24

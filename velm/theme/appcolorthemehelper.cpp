@@ -34,8 +34,7 @@ AppColorThemeHelper::~AppColorThemeHelper()
 void AppColorThemeHelper::setUp()
 {
     m_pimpl->engine = std::make_unique<QQmlEngine>();
-    m_pimpl->loader.addImportPath(importsDir().path(), *m_pimpl->engine);
-    m_pimpl->loader.addQmlPlugins({"Tandolin.API.Core.Themes"}, *m_pimpl->engine);
+    addQmlPlugins({"Tandolin.API.Core.Themes"}, m_pimpl->loader, *m_pimpl->engine);
     ut::ThemeColorManager::setExtension(std::make_unique<QtThemeColors>(*m_pimpl->engine, *m_pimpl->application,
                                                                         std::function<IQtController*()>(),
                                                                         ut::configColorTheme(), ERefreshQml::Yes));

@@ -176,7 +176,7 @@ unsigned long QtThemeColors::guiColorRef(ut::EGuiColor color)
 {
     if (m_pimpl->theme == noTheme) {
         long theme = noTheme;
-        if (ut::Config::read(ut::ECfgGroup::Interface, L"COLORTHEME", theme))
+        if (ut::Config::read(ut::ECfgGroup::Interface, L"COLORTHEME", theme) && theme != noTheme)
             m_pimpl->applyTheme(static_cast<int>(theme), ERefreshQml::Yes);
     }
     if (color == ut::EGuiColor::Brand)

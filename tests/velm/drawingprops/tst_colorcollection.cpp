@@ -1,0 +1,139 @@
+#include "velm/drawingprops/colorcollection.h"
+
+#include "od/oderror.h"
+
+#include <QTest>
+
+using namespace velm;
+
+Q_DECLARE_METATYPE(OdCmColor)
+
+namespace {
+QString text(const OdArray<int>& indices)
+{
+    QStringList result;
+    for (const int index : indices)
+        result += QString::number(index);
+    return result.join(' ');
+}
+} // namespace
+
+class TestColorCollection : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void theHeadHoldsTheStandardColors()
+    {
+        const ColorCollection colors;
+        QCOMPARE(colors.getArrayColor(0, 0), OdCmColor(OdCmColor::kByLayer));
+        QCOMPARE(colors.getArrayColor(1, 0), OdCmColor(OdCmColor::kByBlock));
+        QCOMPARE(colors.getArrayColor(2, 0), OdCmColor(OdCmColor::kNone));
+        for (std::uint16_t index = 1; index <= 7; ++index)
+            QCOMPARE(colors.getArrayColor(index + 2, 0), OdCmColor::fromIndex(index));
+        QVERIFY_THROWS_EXCEPTION(OdError_InvalidIndex, colors.getArrayColor(10, 0));
+        QVERIFY_THROWS_EXCEPTION(OdError_InvalidIndex, colors.getArrayColor(-1, 0));
+    }
+
+    void theFirstUseDecidesWhetherWhiteIsBlack()
+    {
+        const ColorCollection white;
+        QCOMPARE(white.getArrayColor(9, 32), OdCmColor::fromRGB(0, 0, 0));
+        QCOMPARE(white.getArrayColor(9, 0), OdCmColor::fromRGB(0, 0, 0));
+        const ColorCollection plain;
+        plain.initColorIndices(0);
+        QCOMPARE(plain.getArrayColor(9, 32), OdCmColor::fromIndex(7));
+    }
+
+    void theRowsOfACombo_data()
+    {
+        QTest::addColumn<int>("flags");
+        QTest::addColumn<QString>("rows");
+        QTest::newRow("standard colours, and picked ones that aren't true colours") << 0 << "3 4 5 6 7 8 9 11";
+        QTest::newRow("true colours as well") << 1 << "3 4 5 6 7 8 9 10 11";
+        QTest::newRow("by layer and by block first") << 3 << "0 1 3 4 5 6 7 8 9 10 11";
+        QTest::newRow("none after them") << 10 << "0 1 2 3 4 5 6 7 8 9 11";
+        QTest::newRow("by layer as black behind the standard colours") << 4 << "3 4 5 6 7 8 9 0 11";
+        QTest::newRow("white mode has by layer's row for white") << 32 << "3 4 5 6 7 8 0 11";
+        QTest::newRow("white mode and black by layer") << 36 << "3 4 5 6 7 8 0 0 11";
+    }
+    void theRowsOfACombo()
+    {
+        QFETCH(int, flags);
+        QFETCH(QString, rows);
+        const ColorCollection colors;
+        QCOMPARE(colors.tryAddColor(OdCmColor::fromRGB(9, 9, 9), 1), std::optional<int>(10));
+        QCOMPARE(colors.tryAddColor(OdCmColor::fromIndex(40), 0), std::optional<int>(11));
+        QCOMPARE(text(colors.initColorIndices(flags)), rows);
+    }
+
+    void aColorIsTakenUpWhereTheFlagsAllowIt_data()
+    {
+        QTest::addColumn<OdCmColor>("color");
+        QTest::addColumn<int>("flags");
+        QTest::addColumn<std::optional<int>>("index");
+        const std::optional<int> refused;
+        const auto at = [](int index) { return std::optional<int>(index); };
+        QTest::newRow("by block needs its flag") << OdCmColor(OdCmColor::kByBlock) << ~2 << refused;
+        QTest::newRow("by block with its flag") << OdCmColor(OdCmColor::kByBlock) << 2 << at(1);
+        QTest::newRow("by layer needs one of three flags") << OdCmColor(OdCmColor::kByLayer) << 1 + 8 << refused;
+        QTest::newRow("by layer with the rows") << OdCmColor(OdCmColor::kByLayer) << 2 << at(0);
+        QTest::newRow("by layer as black") << OdCmColor(OdCmColor::kByLayer) << 4 << at(0);
+        QTest::newRow("by layer in white mode") << OdCmColor(OdCmColor::kByLayer) << 32 << at(0);
+        QTest::newRow("a true colour needs its flag") << OdCmColor::fromRGB(1, 2, 3) << ~1 << refused;
+        QTest::newRow("a true colour with its flag") << OdCmColor::fromRGB(1, 2, 3) << 1 << at(10);
+        QTest::newRow("none needs its flag") << OdCmColor(OdCmColor::kNone) << ~8 << refused;
+        QTest::newRow("none with its flag") << OdCmColor(OdCmColor::kNone) << 8 << at(2);
+        QTest::newRow("an index needs nothing") << OdCmColor::fromIndex(3) << 0 << at(5);
+    }
+    void aColorIsTakenUpWhereTheFlagsAllowIt()
+    {
+        QFETCH(OdCmColor, color);
+        QFETCH(int, flags);
+        QFETCH(std::optional<int>, index);
+        const ColorCollection colors;
+        QCOMPARE(colors.tryAddColor(color, flags), index);
+        // The second time it is found and not added again.
+        QCOMPARE(colors.tryAddColor(color, flags), index);
+    }
+
+    void whiteModeKeepsPureWhiteOut()
+    {
+        const ColorCollection colors;
+        QVERIFY(colors.shouldInitColor(OdCmColor::fromRGB(255, 255, 255), 0));
+        QVERIFY(!colors.shouldInitColor(OdCmColor::fromRGB(255, 255, 255), 32));
+        QVERIFY(colors.shouldInitColor(OdCmColor::fromRGB(255, 254, 255), 32));
+        QVERIFY(colors.shouldInitColor(OdCmColor::fromIndex(1), 32));
+    }
+
+    void theFlagsOfTheColorDialog_data()
+    {
+        QTest::addColumn<int>("flags");
+        QTest::addColumn<bool>("varies");
+        QTest::addColumn<int>("dialog");
+        QTest::newRow("a bare combo has no true colours") << 0 << false << 8;
+        QTest::newRow("by layer and by block") << 3 << false << 1;
+        QTest::newRow("black by layer wins over them") << 7 << false << 2;
+        QTest::newRow("white mode wins over them") << 35 << false << 2;
+        QTest::newRow("none and varies") << 9 << true << 64 + 16;
+    }
+    void theFlagsOfTheColorDialog()
+    {
+        QFETCH(int, flags);
+        QFETCH(bool, varies);
+        QFETCH(int, dialog);
+        QCOMPARE(ColorCollection().colorComboFlagsToDialog(flags, varies), dialog);
+    }
+
+    void copiesShareNothing()
+    {
+        const ColorCollection colors;
+        colors.tryAddColor(OdCmColor::fromRGB(1, 1, 1), 1);
+        const ColorCollection copy = colors;
+        copy.tryAddColor(OdCmColor::fromRGB(2, 2, 2), 1);
+        QCOMPARE(colors.initColorIndices(1).size(), 8u);
+        QCOMPARE(copy.initColorIndices(1).size(), 9u);
+    }
+};
+
+QTEST_APPLESS_MAIN(TestColorCollection)
+#include "tst_colorcollection.moc"
