@@ -41,6 +41,7 @@ FocusScope {
     }
 
     function moveTo(row: int) {
+        typed.stop();
         if (count > 0)
             currentIndex = Math.min(count - 1, Math.max(0, row));
     }

@@ -21,10 +21,6 @@ PanelPage {
     Keys.onEscapePressed: rejected()
     Keys.onReturnPressed: finish()
     Keys.onEnterPressed: finish()
-    Component.onCompleted: {
-        field.forceActiveFocus();
-        field.selectAll();
-    }
 
     // Enter presses the button that has the keyboard, or else the default one.
     function finish() {
@@ -49,7 +45,11 @@ PanelPage {
             Accessible.name: page.controller.label
             onTextChanged: page.controller.name = text
             // Read once: from here on the field owns the text.
-            Component.onCompleted: text = page.controller.name
+            Component.onCompleted: {
+                text = page.controller.name;
+                selectAll();
+                forceActiveFocus();
+            }
         }
         Item {
             Layout.fillHeight: true

@@ -7,7 +7,6 @@
 #include <QQmlContext>
 #include <QQmlPropertyMap>
 #include <QQuickItem>
-#include <QQuickStyle>
 #include <QQuickWindow>
 #include <QTest>
 
@@ -90,6 +89,8 @@ void TestEngineStart::singletonsOfTheLibraryAreTheProgramsOwn()
 
 int main(int argc, char** argv)
 {
+    // The environment of a developer has no say, but the platform of the test has.
+    qputenv("TN_QT_QPA_PLATFORM", qgetenv("QT_QPA_PLATFORM"));
     undefineQtEnvVars();
     QApplication application(argc, argv);
     setDefaultLocale();
