@@ -2,7 +2,7 @@
 
 #include "od/oderror.h"
 
-#include <QStringDecoder>
+#include <QString>
 #include <QStringEncoder>
 
 #include <algorithm>
@@ -48,11 +48,7 @@ void OdString::syncUnicode() const
 {
     if (m_wide)
         return;
-    // Without these flags a leading U+FEFF and a sequence cut off at the end would be dropped.
-    QStringDecoder decoder(QStringDecoder::Utf8,
-                           QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
-    const QString text = decoder.decode(QByteArrayView(m_narrow.data(), static_cast<qsizetype>(m_narrow.size())));
-    m_wide = text.toStdWString();
+    m_wide = QString::fromUtf8(m_narrow.data(), static_cast<qsizetype>(m_narrow.size())).toStdWString();
 }
 
 const std::wstring& OdString::wide() const

@@ -1,0 +1,325 @@
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "ut/config.h"
+#include "ut/environment.h"
+
+#include <limits>
+#include <memory>
+
+using ut::Config;
+using ut::ECfgGroup;
+
+class tst_Config : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void keysAndTextsRoundTrip_data();
+    void keysAndTextsRoundTrip();
+    void valuesRoundTripAndKeepTheirType();
+    void groupsAndCaseTellEntriesApart();
+    void listsGroupsInAlphabeticalOrder();
+    void deletesOneEntry();
+    void readsWhatAPersonTyped();
+    void damagedFileIsSetAside_data();
+    void damagedFileIsSetAside();
+    void secondDamageKeepsTheFirst();
+    void unwritableStoreLastsForTheProcess();
+    void everyReportedWriteOutlivesAKilledWriter();
+    void writersAtOnceLoseNothing();
+
+private:
+    QString path(const QString& name) const { return m_folder->filePath(name); }
+    void useStore(const QString& name);
+    void fill(const QByteArray& bytes);
+    QByteArray content(const QString& name) const;
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+static long readLong(const OdString& key)
+{
+    long value = -1;
+    return Config::read(ECfgGroup::Dialogs, key, value) ? value : -1;
+}
+
+void tst_Config::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    useStore(QStringLiteral("settings.ini"));
+}
+
+void tst_Config::useStore(const QString& name)
+{
+    ut::setEnvironment(L"TANDOLIN_CONFIG", path(name).toStdWString());
+    Config::reopen();
+}
+
+void tst_Config::fill(const QByteArray& bytes)
+{
+    QFile file(path(QStringLiteral("settings.ini")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+QByteArray tst_Config::content(const QString& name) const
+{
+    QFile file(path(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("not there");
+}
+
+void tst_Config::keysAndTextsRoundTrip_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("an empty text") << QString();
+    QTest::newRow("a leading slash of an empty dialog name") << QStringLiteral("/setting");
+    QTest::newRow("double slashes and one at the end") << QStringLiteral("a//b/");
+    QTest::newRow("one slash alone") << QStringLiteral("/");
+    QTest::newRow("blanks at both ends") << QStringLiteral(" \t padded\u00a0");
+    QTest::newRow("line ends of all kinds") << QStringLiteral("one\ntwo\r\nthree\rfour");
+    QTest::newRow("the signs of the file's own form") << QStringLiteral("[a]=b;c#d%0041%,\"e\"\\n");
+    QTest::newRow("a percent sign at the end") << QStringLiteral("100%");
+    QTest::newRow("what looks like a variant") << QStringLiteral("@Invalid()");
+    QTest::newRow("a comment") << QStringLiteral("; no comment");
+    QTest::newRow("letters beyond ASCII and the first plane") << QString::fromUtf8("Maß 図面 \xf0\x9f\x93\x90");
+    QTest::newRow("control characters and a zero") << QString(QChar(0)) + QChar(1) + QChar(127) + QStringLiteral("z");
+    QTest::newRow("a very long text") << QString(100000, u'x');
+}
+
+void tst_Config::keysAndTextsRoundTrip()
+{
+    QFETCH(QString, text);
+    const OdString odText = text.toStdWString();
+    const OdString neighbour = L"setting"; // what "/setting" must not become
+    QVERIFY(Config::writeString(ECfgGroup::Dialogs, neighbour, L"neighbour"));
+    QVERIFY(Config::writeString(ECfgGroup::Dialogs, odText, odText));
+
+    Config::reopen();
+    OdString read;
+    QVERIFY(Config::read(ECfgGroup::Dialogs, odText, read));
+    QCOMPARE(QString::fromStdWString(read.wide()), text);
+    QVERIFY(Config::read(ECfgGroup::Dialogs, neighbour, read));
+    QVERIFY(read == OdString(L"neighbour"));
+}
+
+void tst_Config::valuesRoundTripAndKeepTheirType()
+{
+    const ECfgGroup group = ECfgGroup::General;
+    Config::writeBool(group, L"bool", true);
+    Config::writeLong(group, L"long", std::numeric_limits<long>::min());
+    Config::writeLong(group, L"short", -32768);
+    Config::writeDouble(group, L"double", 0.1 + 0.2);
+    Config::writeSize(group, L"size", wxSize(-1, 20));
+    Config::writePoint(group, L"point", wxPoint(-300, 40));
+    Config::writeRect(group, L"rect", wxRect(-5, 6, 7, 8));
+    Config::reopen();
+
+    bool boolean = false;
+    short small = 0;
+    long number = 0;
+    double real = 0;
+    wxSize size;
+    wxPoint point;
+    wxRect rect;
+    QVERIFY(Config::read(group, L"bool", boolean) && boolean);
+    QVERIFY(Config::read(group, L"long", number));
+    QCOMPARE(number, std::numeric_limits<long>::min());
+    QVERIFY(Config::read(group, L"short", small));
+    QCOMPARE(small, short(-32768));
+    QVERIFY(Config::read(group, L"double", real));
+    QVERIFY(real == 0.1 + 0.2);
+    QVERIFY(Config::read(group, L"size", size) && size == wxSize(-1, 20));
+    QVERIFY(Config::read(group, L"point", point) && point == wxPoint(-300, 40));
+    QVERIFY(Config::read(group, L"rect", rect) && rect == wxRect(-5, 6, 7, 8));
+
+    // Of another type: not found, and the caller's value stays.
+    QVERIFY(!Config::read(group, L"long", small));
+    QCOMPARE(small, short(-32768));
+    QVERIFY(!Config::read(group, L"bool", number));
+    QVERIFY(!Config::read(group, L"double", number));
+    QVERIFY(!Config::read(group, L"long", boolean) && boolean);
+    QVERIFY(!Config::read(group, L"rect", size));
+    QVERIFY(!Config::read(group, L"size", rect));
+    QVERIFY(rect == wxRect(-5, 6, 7, 8));
+    QVERIFY(!Config::read(group, L"missing", real));
+}
+
+void tst_Config::groupsAndCaseTellEntriesApart()
+{
+    Config::writeLong(ECfgGroup::Dialogs, L"Key", 1);
+    Config::writeLong(ECfgGroup::Dialogs, L"key", 2);
+    Config::writeLong(ECfgGroup::General, L"Key", 3);
+    Config::writeLong(static_cast<ECfgGroup>(7), L"Key", 4);
+    Config::reopen();
+    QCOMPARE(readLong(L"Key"), 1);
+    QCOMPARE(readLong(L"key"), 2);
+    long value = 0;
+    QVERIFY(Config::read(ECfgGroup::General, L"Key", value));
+    QCOMPARE(value, 3);
+    QVERIFY(Config::read(static_cast<ECfgGroup>(7), L"Key", value));
+    QCOMPARE(value, 4);
+    QVERIFY(!Config::read(ECfgGroup::Interface, L"Key", value));
+}
+
+void tst_Config::listsGroupsInAlphabeticalOrder()
+{
+    for (const wchar_t* key : {L"Dlg/b/Width", L"Dlg/b-2/Width", L"Dlg/a/Width", L"Dlg/a/Hidden", L"Dlg/plain",
+                               L"Dlg2/c/Width", L"/Empty/x"})
+        Config::writeLong(ECfgGroup::Dialogs, key, 1);
+    OdArray<OdString> groups = {L"left over"};
+    QVERIFY(Config::listGroups(ECfgGroup::Dialogs, groups, L"Dlg"));
+    QVERIFY(groups == OdArray<OdString>({L"a", L"b", L"b-2"}));
+    QVERIFY(Config::listGroups(ECfgGroup::Dialogs, groups, L""));
+    QVERIFY(groups == OdArray<OdString>({L"", L"Dlg", L"Dlg2"}));
+    QVERIFY(Config::listGroups(ECfgGroup::Dialogs, groups, L"/"));
+    QVERIFY(groups == OdArray<OdString>({L"Empty"}));
+    for (const wchar_t* without : {L"Dlg/a", L"Dl", L"Dlg/plain", L"missing"}) {
+        groups = {L"left over"};
+        QVERIFY(!Config::listGroups(ECfgGroup::Dialogs, groups, without));
+        QVERIFY(groups.isEmpty());
+    }
+}
+
+void tst_Config::deletesOneEntry()
+{
+    Config::writeLong(ECfgGroup::Dialogs, L"a", 1);
+    Config::writeLong(ECfgGroup::Dialogs, L"a/b", 2);
+    QVERIFY(Config::deleteEntry(ECfgGroup::Dialogs, L"a"));
+    QVERIFY(!Config::deleteEntry(ECfgGroup::Dialogs, L"a"));
+    Config::reopen();
+    QCOMPARE(readLong(L"a"), -1);
+    QCOMPARE(readLong(L"a/b"), 2);
+}
+
+void tst_Config::readsWhatAPersonTyped()
+{
+    fill("; a comment\r\n# another\r\n\r\n[Interface]\r\n  COLORTHEME = 1 \r\n[Dialogs]\nColumn "
+         "Data/A=7\n[Other]\nkept=x");
+    long theme = 0;
+    QVERIFY(Config::read(ECfgGroup::Interface, L"COLORTHEME", theme));
+    QCOMPARE(theme, 1);
+    QVERIFY(Config::writeLong(ECfgGroup::Dialogs, L"new", 8));
+    QCOMPARE(readLong(L"Column Data/A"), 7);
+    QVERIFY(content(QStringLiteral("settings.ini")).contains("[Other]\nkept=x\n"));
+    fill("[Dialogs]\nnew=9\n"); // by an editor while the store is open: read at once
+    QCOMPARE(readLong(L"new"), 9);
+}
+
+void tst_Config::damagedFileIsSetAside_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("binary garbage") << QByteArray("\x89PNG\r\n\x1a\n=\xff\xfe=\n");
+    QTest::newRow("zeros, as after a crash of the system") << QByteArray(4096, '\0');
+    QTest::newRow("a zero inside a good line") << QByteArray("[Dialogs]\na=1\0\nb=2\n", 18);
+    QTest::newRow("a line that is nothing") << QByteArray("[Dialogs]\na=1\nhello\nb=2\n");
+    QTest::newRow("a section without an end") << QByteArray("[Dialogs]\na=1\n[Dia");
+    QTest::newRow("a directory in its place") << QByteArray();
+}
+
+void tst_Config::damagedFileIsSetAside()
+{
+    QFETCH(QByteArray, bytes);
+    const bool isFolder = bytes.isEmpty();
+    if (isFolder)
+        QVERIFY(QDir().mkpath(path(QStringLiteral("settings.ini/inside"))));
+    else
+        fill(bytes);
+    const QRegularExpression namesBoth(QStringLiteral("settings\\.ini\".*settings\\.damaged-1\\.ini\""));
+    QTest::ignoreMessage(QtWarningMsg, namesBoth);
+    QCOMPARE(readLong(L"a"), -1);
+    QCOMPARE(readLong(L"a"), -1);
+    QVERIFY(Config::writeLong(ECfgGroup::Dialogs, L"a", 5));
+    Config::reopen();
+    QCOMPARE(readLong(L"a"), 5);
+    if (isFolder)
+        QVERIFY(QFileInfo::exists(path(QStringLiteral("settings.damaged-1.ini/inside"))));
+    else
+        QCOMPARE(content(QStringLiteral("settings.damaged-1.ini")), bytes);
+}
+
+void tst_Config::secondDamageKeepsTheFirst()
+{
+    for (const char* damage : {"first", "second"}) {
+        fill(damage);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("damaged-")));
+        QVERIFY(Config::writeLong(ECfgGroup::Dialogs, L"a", 5)); // a write finds the damage, too
+    }
+    QCOMPARE(content(QStringLiteral("settings.damaged-1.ini")), "first");
+    QCOMPARE(content(QStringLiteral("settings.damaged-2.ini")), "second");
+}
+
+void tst_Config::unwritableStoreLastsForTheProcess()
+{
+    fill("[Dialogs]\n");
+    useStore(QStringLiteral("settings.ini/below/a/file.ini"));
+    QVERIFY(!Config::isWritable());
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("file\\.ini.* can't be written")));
+    QVERIFY(!Config::writeLong(ECfgGroup::Dialogs, L"a", 1));
+    QVERIFY(!Config::writeLong(ECfgGroup::Dialogs, L"b", 2));
+    QCOMPARE(readLong(L"a"), 1);
+    QVERIFY(Config::deleteEntry(ECfgGroup::Dialogs, L"a"));
+    QCOMPARE(readLong(L"a"), -1);
+
+    // Once the obstacle is gone, the next write brings all of them to the disk.
+    QVERIFY(QFile::remove(path(QStringLiteral("settings.ini"))));
+    QVERIFY(Config::isWritable());
+    QVERIFY(Config::writeLong(ECfgGroup::Dialogs, L"c", 3));
+    Config::reopen();
+    QCOMPARE(readLong(L"a"), -1);
+    QCOMPARE(readLong(L"b"), 2);
+    QCOMPARE(readLong(L"c"), 3);
+}
+
+void tst_Config::everyReportedWriteOutlivesAKilledWriter()
+{
+    for (int round = 0; round < 5; ++round) {
+        const QString name = QStringLiteral("round%1").arg(round);
+        QProcess writer;
+        writer.start(QStringLiteral(CONFIGWRITER), {name, QStringLiteral("9000")});
+        QVERIFY(writer.waitForStarted());
+        QByteArray reported;
+        while (reported.count('\n') < 3 + round) {
+            QVERIFY(writer.waitForReadyRead());
+            reported += writer.readAllStandardOutput();
+        }
+        writer.kill();
+        QVERIFY(writer.waitForFinished());
+        reported += writer.readAllStandardOutput();
+        reported.truncate(reported.lastIndexOf('\n'));
+        for (const QByteArray& number : reported.split('\n')) {
+            const QString key = name + u'/' + QString::fromLatin1(number);
+            QCOMPARE(readLong(key.toStdWString()), number.toLong());
+        }
+        // Also when the writer died with the lock in its hand.
+        QVERIFY(Config::writeLong(ECfgGroup::Dialogs, L"mine", round));
+    }
+}
+
+void tst_Config::writersAtOnceLoseNothing()
+{
+    constexpr int count = 60;
+    QProcess first;
+    QProcess second;
+    first.start(QStringLiteral(CONFIGWRITER), {QStringLiteral("one"), QString::number(count)});
+    second.start(QStringLiteral(CONFIGWRITER), {QStringLiteral("two"), QString::number(count)});
+    for (long number = 1000; number < 1000 + count; ++number)
+        QVERIFY(Config::writeLong(ECfgGroup::Dialogs, L"mine/" + std::to_wstring(number), number));
+    for (QProcess* writer : {&first, &second}) {
+        QVERIFY(writer->state() == QProcess::NotRunning || writer->waitForFinished());
+        QCOMPARE(writer->exitCode(), 0);
+    }
+    Config::reopen();
+    for (long number = 1000; number < 1000 + count; ++number)
+        for (const wchar_t* name : {L"one/", L"two/", L"mine/"})
+            QCOMPARE(readLong(name + std::to_wstring(number)), number);
+    QCOMPARE(readLong(L"one/last"), 1000 + count - 1);
+    QCOMPARE(readLong(L"two/last"), 1000 + count - 1);
+}
+
+QTEST_GUILESS_MAIN(tst_Config)
+#include "tst_config.moc"

@@ -1,0 +1,37 @@
+#include "desktop/desktop.h"
+
+#include <QOffscreenSurface>
+#include <QOpenGLContext>
+#include <QTest>
+
+#include <memory>
+
+class tst_Desktop : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void nativeContextBecomesQts();
+};
+
+void tst_Desktop::nativeContextBecomesQts()
+{
+    QCOMPARE(desktop::openGlContextFromNative(nullptr, nullptr), nullptr);
+#if QT_CONFIG(xcb_glx_plugin)
+    QOpenGLContext maker;
+    if (!maker.create() || !maker.nativeInterface<QNativeInterface::QGLXContext>())
+        QSKIP("no GLX here");
+    const GLXContext native = maker.nativeInterface<QNativeInterface::QGLXContext>()->nativeContext();
+    std::unique_ptr<QOpenGLContext> context(desktop::openGlContextFromNative(reinterpret_cast<HGLRC>(native), nullptr));
+    QVERIFY(context);
+    QCOMPARE(context->nativeInterface<QNativeInterface::QGLXContext>()->nativeContext(), native);
+    context.reset();
+    // The native context stays its maker's.
+    QOffscreenSurface surface;
+    surface.create();
+    QVERIFY(maker.makeCurrent(&surface));
+#endif
+}
+
+QTEST_MAIN(tst_Desktop)
+#include "tst_desktop.moc"
