@@ -2,14 +2,26 @@
 
 namespace workbench {
 
+namespace {
+
+wxString keyOf(const wxString& name)
+{
+    wxString key = name.Upper();
+    while (key.StartsWith("_") || key.StartsWith("'"))
+        key.erase(0, 1);
+    return key;
+}
+
+} // namespace
+
 void Commands::add(const wxString& name, const wxString& help, Handler handler)
 {
-    m_entries[name.Upper()] = {help, std::move(handler)};
+    m_entries[keyOf(name)] = {help, std::move(handler)};
 }
 
 void Commands::addAlias(const wxString& alias, const wxString& name)
 {
-    m_aliases[alias.Upper()] = name.Upper();
+    m_aliases[keyOf(alias)] = keyOf(name);
 }
 
 bool Commands::run(const wxString& line) const
@@ -46,9 +58,7 @@ wxString Commands::help(const wxString& name) const
 
 const Commands::Entry* Commands::find(const wxString& name) const
 {
-    wxString key = name.Upper();
-    while (key.StartsWith("_") || key.StartsWith("'"))
-        key.erase(0, 1);
+    wxString key = keyOf(name);
     if (const auto alias = m_aliases.find(key); alias != m_aliases.end())
         key = alias->second;
     const auto entry = m_entries.find(key);

@@ -1,7 +1,6 @@
 #include "drawing/drawingpainter.h"
 
 #include <wx/font.h>
-#include <wx/geometry.h>
 #include <wx/graphics.h>
 
 #include <algorithm>
@@ -70,9 +69,15 @@ bool clip(wxPoint2DDouble& from, wxPoint2DDouble& to, const wxRect2DDouble& area
     return true;
 }
 
+/// True for a way that leads along and not across, seen in pixels.
+bool isLevel(double along, double across)
+{
+    return std::abs(across) < 0.01 && std::abs(along) > 2.0;
+}
+
 wxPoint2DDouble snapped(const wxPoint2DDouble& point)
 {
-    return {std::floor(point.m_x), std::floor(point.m_y)};
+    return {std::round(point.m_x), std::round(point.m_y)};
 }
 
 } // namespace
@@ -165,11 +170,23 @@ void DrawingPainter::paintChain(const Tessellation& tessellation, const Piece& p
         for (const double dash : *pattern)
             length += std::abs(dash) * m_view.scale;
     const bool isDashed = pattern && length >= shortestPattern;
-    // Straight lines lie on whole pixels, where they are sharp; curves would become uneven.
-    const auto place = [&](std::uint32_t index) {
+    const auto screenPoint = [&](std::uint32_t index) {
         const Tessellation::Point& point = tessellation.points[piece.first + index];
-        const wxPoint2DDouble screen = m_view.toScreen(point.x, point.y);
-        return piece.isCurved ? screen : snapped(screen);
+        return m_view.toScreen(point.x, point.y);
+    };
+    // Horizontal and vertical lines lie on whole pixels, where they are sharp.
+    const auto place = [&](std::uint32_t index) {
+        const wxPoint2DDouble point = screenPoint(index);
+        wxPoint2DDouble result = point;
+        for (const std::uint32_t neighbour : {index - 1, index + 1})
+            if (neighbour < piece.count) { // the one before the first is none as well
+                const wxPoint2DDouble way = screenPoint(neighbour) - point;
+                if (isLevel(way.m_x, way.m_y))
+                    result.m_y = std::round(point.m_y);
+                if (isLevel(way.m_y, way.m_x))
+                    result.m_x = std::round(point.m_x);
+            }
+        return result;
     };
     double offset = 0.0; // in the dash pattern, in pixels
     wxPoint2DDouble from = place(0);

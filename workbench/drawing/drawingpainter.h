@@ -4,6 +4,7 @@
 
 #include <wx/colour.h>
 #include <wx/gdicmn.h>
+#include <wx/geometry.h>
 
 #include <map>
 #include <memory>

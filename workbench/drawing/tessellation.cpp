@@ -63,7 +63,7 @@ private:
     void addEntity(const OdDbEntity& entity, const Surroundings& around);
     void addReference(const OdDbBlockReference& reference, const Surroundings& own);
     void addText(const OdDbText& text, const Surroundings& own);
-    void addChain(const std::vector<OdGePoint3d>& chain, bool isCurved, const Surroundings& own);
+    void addChain(const std::vector<OdGePoint3d>& chain, const Surroundings& own);
     void addPiece(Piece piece, const Surroundings& own);
     int dashPattern(const OdDbLinetypeTableRecord* linetype);
 
@@ -133,7 +133,7 @@ void Tessellator::addEntity(const OdDbEntity& entity, const Surroundings& around
         return;
     std::vector<OdGePoint3d> chain;
     if (const auto* line = dynamic_cast<const OdDbLine*>(&entity)) {
-        addChain({line->startPoint, line->endPoint}, false, own);
+        addChain({line->startPoint, line->endPoint}, own);
     } else if (const auto* polyline = dynamic_cast<const OdDbPolyline*>(&entity)) {
         const auto& vertices = polyline->vertices;
         if (vertices.empty())
@@ -143,21 +143,21 @@ void Tessellator::addEntity(const OdDbEntity& entity, const Surroundings& around
             appendBulge(chain, vertices[i - 1].point, vertices[i].point, vertices[i - 1].bulge);
         if (polyline->closed)
             appendBulge(chain, vertices.back().point, vertices.front().point, vertices.back().bulge);
-        addChain(chain, chain.size() > vertices.size() + 1, own);
+        addChain(chain, own);
     } else if (const auto* circle = dynamic_cast<const OdDbCircle*>(&entity)) {
         appendEllipticArc(chain, circle->center, {circle->radius, 0, 0}, {0, circle->radius, 0}, 0.0, fullTurn);
-        addChain(chain, true, own);
+        addChain(chain, own);
     } else if (const auto* arc = dynamic_cast<const OdDbArc*>(&entity)) {
         appendEllipticArc(chain, arc->center, {arc->radius, 0, 0}, {0, arc->radius, 0}, arc->startAngle,
                           sweepOf(arc->startAngle, arc->endAngle));
-        addChain(chain, true, own);
+        addChain(chain, own);
     } else if (const auto* ellipse = dynamic_cast<const OdDbEllipse*>(&entity)) {
         const OdGeVector3d& major = ellipse->majorAxis;
         appendEllipticArc(chain, ellipse->center, major, OdGeVector3d{-major.y, major.x, 0} * ellipse->radiusRatio,
                           ellipse->startParam, sweepOf(ellipse->startParam, ellipse->endParam));
-        addChain(chain, true, own);
+        addChain(chain, own);
     } else if (const auto* point = dynamic_cast<const OdDbPoint*>(&entity)) {
-        addChain({point->position}, false, own);
+        addChain({point->position}, own);
     } else if (const auto* text = dynamic_cast<const OdDbText*>(&entity)) {
         addText(*text, own);
     }
@@ -219,12 +219,11 @@ void Tessellator::addText(const OdDbText& text, const Surroundings& own)
     addPiece(piece, own);
 }
 
-void Tessellator::addChain(const std::vector<OdGePoint3d>& chain, bool isCurved, const Surroundings& own)
+void Tessellator::addChain(const std::vector<OdGePoint3d>& chain, const Surroundings& own)
 {
     Piece piece;
     piece.first = static_cast<std::uint32_t>(m_result.points.size());
     piece.count = static_cast<std::uint32_t>(chain.size());
-    piece.isCurved = isCurved;
     piece.dashes = dashPattern(own.linetype);
     for (const OdGePoint3d& point : chain) {
         const OdGePoint3d world = own.transform * point;

@@ -44,7 +44,6 @@ struct Piece
     int text = -1;   ///< its text's index, or -1
     int dashes = -1; ///< its dash pattern's index, or -1 for a continuous line
     int lineWeight = OdDb::kLnWtByLwDefault;
-    bool isCurved = false;
     OdCmColor color; ///< an index or an RGB colour
     Box box;
 };
