@@ -76,6 +76,8 @@ MainFrame::~MainFrame()
 
 void MainFrame::build()
 {
+    // First: the controls don't like to be laid out in a window without room.
+    SetSize(FromDIP(wxSize(1100, 720)));
     m_sideSplitter =
         new wxSplitterWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxSP_LIVE_UPDATE | wxSP_NOBORDER);
     m_lowerSplitter = new wxSplitterWindow(m_sideSplitter, wxID_ANY, wxDefaultPosition, wxDefaultSize,
@@ -92,14 +94,13 @@ void MainFrame::build()
     m_lowerSplitter->SetSashGravity(1.0);
     m_sideSplitter->SetMinimumPaneSize(FromDIP(200));
     m_sideSplitter->SetSashGravity(1.0);
-    SetSize(FromDIP(wxSize(1100, 720)));
     m_sideSplitter->SplitVertically(m_lowerSplitter, m_panels, -FromDIP(sideWidth));
     m_lowerSplitter->SplitHorizontally(m_canvas, m_commandLine, -FromDIP(lowerHeight));
 
     addMenus(*this, actions());
     for (PagePanel* page : m_pages.pages())
         page->setAcceleratorTable(shortcuts(*GetMenuBar()));
-    CreateStatusBar(3);
+    CreateStatusBar(3, wxSTB_DEFAULT_STYLE & ~wxSTB_SIZEGRIP);
     const int widths[] = {-1, FromDIP(130), FromDIP(90)};
     SetStatusWidths(3, widths);
 }
@@ -251,6 +252,7 @@ void MainFrame::applyColours()
     m_commandLine->setColours(wxGuiColour(ut::EGuiColor::Grey10), wxGuiColour(ut::EGuiColor::PanelBackground),
                               wxGuiColour(ut::EGuiColor::InputBackground));
     m_canvas->Refresh();
+    m_layers.setDarkBackground(m_session.theme() == ut::EGuiColorTheme::Dark);
     wxStatusBar* bar = GetStatusBar();
     bar->SetBackgroundColour(wxGuiColour(ut::EGuiColor::PanelsetIconStripBase));
     bar->SetForegroundColour(wxGuiColour(ut::EGuiColor::Grey8));

@@ -23,7 +23,7 @@ void applyThemeToControls(ut::EGuiColorTheme theme)
     using ut::EGuiColor;
     // The controls of the host's toolkit in the sizes and colours of the pages' style.
     static constexpr const char* sheet = R"(
-* { outline-color: @focus@; text-shadow: none; -gtk-icon-shadow: none; }
+* { font-size: 9pt; outline-color: @focus@; text-shadow: none; -gtk-icon-shadow: none; }
 window, dialog, .background { background-color: @panel@; color: @text@; }
 menubar { background-color: @ribbon@; color: @text@; box-shadow: inset 0 -1px @line@; padding: 1px 4px; }
 menubar > menuitem { padding: 3px 9px; }
@@ -55,10 +55,10 @@ button:hover { background-color: @hover@; }
 button:active, button:checked { background-color: @selection@; }
 button:focus { border-color: @focus@; box-shadow: inset 0 0 0 1px @focus@; outline-style: none; }
 button:disabled { color: @dim@; }
-button.default, button:default { background-color: @primary@; color: @primaryText@; border-color: @primary@; }
+button.default { background-color: @primary@; color: @primaryText@; border-color: @primary@; }
 scrollbar { background-color: @panel@; border-color: @line@; }
 scrollbar slider { background-color: @outline@; }
-paned > separator { background-image: none; background-color: @line@; min-width: 1px; min-height: 1px; }
+paned > separator { background-image: none; background-color: @panel@; min-width: 1px; min-height: 1px; }
 treeview.view, list, .view { background-color: @input@; color: @text@; }
 treeview.view header button { background-color: @ribbon@; border-radius: 0; border: none; }
 progressbar trough { background-color: @input@; border: 1px solid @outline@; }

@@ -15,7 +15,7 @@ ItemDelegate {
     required property bool on
     required property bool frozen
     required property bool locked
-    property var list
+    required property var owner
 
     signal toggled(bool on)
 
@@ -27,10 +27,10 @@ ItemDelegate {
     topPadding: 0
     bottomPadding: 0
     onPressed: {
-        list.forceActiveFocus();
-        list.currentIndex = index;
+        owner.forceActiveFocus();
+        owner.currentIndex = index;
     }
-    onDoubleClicked: list.activated(index)
+    onDoubleClicked: owner.activated(index)
 
     contentItem: RowLayout {
         spacing: Metrics.spacing

@@ -38,7 +38,7 @@ PanelPage {
                 onCurrentIndexChanged: page.controller.currentRow = currentIndex
                 onActivated: page.controller.renameCurrent()
                 delegate: LayerRow {
-                    list: list
+                    owner: list
                     onToggled: on => page.controller.setOn(index, on)
                 }
                 // The list begins at its first row; the controller knows better after a reload.

@@ -68,11 +68,13 @@ void DrawingInfo::documentBecameCurrent(OdApDocument* document)
 
         OdDbDatabase* database = document->database();
         std::map<QString, int> counts;
-        for (const OdDbObjectId& id : database->modelSpace()->entities())
-            if (const auto* entity = id.open<OdDbEntity>()) {
-                ++counts[kindOf(entity)];
-                ++m_entityCount;
-            }
+        for (const OdDbLayout* layout : database->layouts())
+            if (const auto* space = layout->getBlockTableRecordId().open<OdDbBlockTableRecord>())
+                for (const OdDbObjectId& id : space->entities())
+                    if (const auto* entity = id.open<OdDbEntity>()) {
+                        ++counts[kindOf(entity)];
+                        ++m_entityCount;
+                    }
         for (const auto& [kind, count] : counts)
             m_contents.append(row(kind, QString::number(count)));
         m_contents.append(row(tr("Layers"), QString::number(database->layers().size())));

@@ -26,7 +26,7 @@ public:
     /// Rows of "label" and "value".
     QVariantList contents() const { return m_contents; }
     QVariantList units() const { return m_units; }
-    /// In the model space.
+    /// In the model and the paper spaces.
     int entityCount() const { return m_entityCount; }
 
 Q_SIGNALS:

@@ -24,6 +24,13 @@ OdDbLayerTableRecord* LayerModel::layer(int row) const
     return m_layers[static_cast<std::size_t>(row)].open<OdDbLayerTableRecord>();
 }
 
+void LayerModel::setDarkBackground(bool dark)
+{
+    m_darkBackground = dark;
+    if (!m_layers.empty())
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1), {ColorRole});
+}
+
 void LayerModel::layerChanged(int row)
 {
     Q_EMIT dataChanged(index(row), index(row));
@@ -44,7 +51,7 @@ QVariant LayerModel::data(const QModelIndex& index, int role) const
     case NameRole:
         return velm::toQt(record->getName());
     case ColorRole:
-        return velm::toQtColor(record->color(), odcmIndexPalette(true));
+        return velm::toQtColor(record->color(), odcmIndexPalette(m_darkBackground));
     case OnRole:
         return !record->isOff();
     case FrozenRole:

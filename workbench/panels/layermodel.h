@@ -33,6 +33,8 @@ public:
     OdDbDatabase* database() const { return m_database; }
     /// Null for a row that doesn't exist.
     OdDbLayerTableRecord* layer(int row) const;
+    /// The standard colour is white on a dark background and black on a light one.
+    void setDarkBackground(bool dark);
     /// To call after a change of the layer of a row.
     void layerChanged(int row);
 
@@ -43,5 +45,6 @@ public:
 private:
     OdDbDatabase* m_database = nullptr; // not owned
     std::vector<OdDbObjectId> m_layers;
+    bool m_darkBackground = true;
 };
 } // namespace workbench

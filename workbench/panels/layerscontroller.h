@@ -30,6 +30,8 @@ public:
     void setCurrentRow(int row);
     bool canRename() const;
 
+    void setDarkBackground(bool dark) { m_model.setDarkBackground(dark); }
+
     std::function<void()> onLayersChanged; ///< the drawing looks different now
 
 public Q_SLOTS:
