@@ -32,7 +32,7 @@ const OdString maximizedKey = L"MainWindow/Maximized";
 } // namespace
 
 MainFrame::MainFrame(VelmSession& session, HostServices& services, PageGroup& pages)
-    : wxFrame(nullptr, wxID_ANY, "velm workbench"), m_session(session), m_services(services), m_pages(pages),
+    : wxFrame(nullptr, wxID_ANY, "velm workbench", wxDefaultPosition, wxSize(1100, 720)), m_session(session), m_services(services), m_pages(pages),
       m_documents(services.documents(), services.dialogs(), pages), m_layers(services.documents(), services.dialogs()),
       m_drawingInfo(services.documents())
 {
@@ -60,6 +60,11 @@ MainFrame::MainFrame(VelmSession& session, HostServices& services, PageGroup& pa
     restoreGeometry();
     applyColours();
     documentBecameCurrent(nullptr);
+    // The parts get their places once the window has its size.
+    CallAfter([this] {
+        m_sideSplitter->SetSashPosition(-FromDIP(sideWidth));
+        m_lowerSplitter->SetSashPosition(-FromDIP(lowerHeight));
+    });
     CallAfter(&MainFrame::warnOfConfiguration);
 }
 
@@ -76,8 +81,6 @@ MainFrame::~MainFrame()
 
 void MainFrame::build()
 {
-    // First: the controls don't like to be laid out in a window without room.
-    SetSize(FromDIP(wxSize(1100, 720)));
     m_sideSplitter =
         new wxSplitterWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxSP_LIVE_UPDATE | wxSP_NOBORDER);
     m_lowerSplitter = new wxSplitterWindow(m_sideSplitter, wxID_ANY, wxDefaultPosition, wxDefaultSize,
@@ -90,12 +93,12 @@ void MainFrame::build()
     addPanel("Workbench/LayersPanel.qml", &m_layers, _("Layers"));
     addPanel("Workbench/DrawingPanel.qml", &m_drawingInfo, _("Drawing"));
 
-    m_lowerSplitter->SetMinimumPaneSize(FromDIP(60));
+    m_lowerSplitter->SetMinimumPaneSize(FromDIP(90));
     m_lowerSplitter->SetSashGravity(1.0);
     m_sideSplitter->SetMinimumPaneSize(FromDIP(200));
     m_sideSplitter->SetSashGravity(1.0);
-    m_sideSplitter->SplitVertically(m_lowerSplitter, m_panels, -FromDIP(sideWidth));
-    m_lowerSplitter->SplitHorizontally(m_canvas, m_commandLine, -FromDIP(lowerHeight));
+    m_sideSplitter->SplitVertically(m_lowerSplitter, m_panels);
+    m_lowerSplitter->SplitHorizontally(m_canvas, m_commandLine);
 
     addMenus(*this, actions());
     for (PagePanel* page : m_pages.pages())

@@ -139,7 +139,7 @@ void PagePanel::showNote()
 {
     const QVariantMap properties{{QStringLiteral("page"), m_page.toString()},
                                  {QStringLiteral("reason"), m_error},
-                                 {QStringLiteral("textColor"), qtGuiColour(ut::EGuiColor::BrandAccent)},
+                                 {QStringLiteral("textColor"), qtGuiColour(ut::EGuiColor::Grey10)},
                                  {QStringLiteral("warningColor"), qtGuiColour(ut::EGuiColor::Red)}};
     m_view->setRoot(
         create(*m_group.engine(), QUrl(QStringLiteral("qrc:/qt/qml/Workbench/PageNote.qml")), properties).first);

@@ -25,7 +25,7 @@ void applyThemeToControls(ut::EGuiColorTheme theme)
     static constexpr const char* sheet = R"(
 * { font-size: 9pt; outline-color: @focus@; text-shadow: none; -gtk-icon-shadow: none; }
 window, dialog, .background { background-color: @panel@; color: @text@; }
-menubar { background-color: @ribbon@; color: @text@; box-shadow: inset 0 -1px @line@; padding: 1px 4px; }
+menubar { background-color: @ribbon@; color: @text@; box-shadow: inset 0 -1px @line@; }
 menubar > menuitem { padding: 3px 9px; }
 menubar > menuitem:hover { background-color: @hover@; color: @text@; box-shadow: none; }
 menu, .menu, .context-menu { background-color: @popup@; color: @text@; border: 1px solid @line@; padding: 3px 0; }

@@ -16,6 +16,7 @@ PanelPage {
         anchors.fill: parent
         visible: page.controller.fileName !== ""
         contentWidth: availableWidth
+        ScrollBar.horizontal.policy: ScrollBar.AlwaysOff
 
         ColumnLayout {
             width: scroll.availableWidth

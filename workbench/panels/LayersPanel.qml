@@ -29,20 +29,35 @@ PanelPage {
             PlainListView {
                 id: list
 
+                // A list that is made anew begins at its first row; the controller knows better.
+                property bool isReady: false
+
                 objectName: "layers"
                 anchors.fill: parent
                 visible: page.controller.hasDrawing
                 activeFocusOnTab: true
                 textRole: "name"
                 model: page.controller.layers
-                onCurrentIndexChanged: page.controller.currentRow = currentIndex
+                onCurrentIndexChanged: {
+                    if (isReady)
+                        page.controller.currentRow = currentIndex;
+                }
                 onActivated: page.controller.renameCurrent()
                 delegate: LayerRow {
                     owner: list
                     onToggled: on => page.controller.setOn(index, on)
                 }
-                // The list begins at its first row; the controller knows better after a reload.
-                Component.onCompleted: currentIndex = Qt.binding(() => page.controller.currentRow)
+                Component.onCompleted: {
+                    currentIndex = page.controller.currentRow;
+                    isReady = true;
+                }
+
+                Connections {
+                    target: page.controller
+                    function onCurrentRowChanged() {
+                        list.currentIndex = page.controller.currentRow;
+                    }
+                }
             }
             PlaceholderMessage {
                 anchors.centerIn: parent

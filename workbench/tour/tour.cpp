@@ -137,6 +137,7 @@ void Tour::refuseName()
     m_driver.command("PAGE");
     showTab(0);
     startRenaming();
+    save("name-dialog");
     m_driver.replaceText("0");
     m_driver.waitFor("the name in the field", [&] { return m_driver.property("name", "text") == "0"; });
     m_driver.key("Return");
@@ -168,7 +169,6 @@ void Tour::switchTheme()
     check(brightness() > 150, "the canvas is light in the light theme");
     m_driver.command("THEME DARK");
     m_driver.waitFor("the dark theme", [&] { return ut::configColorTheme() == ut::EGuiColorTheme::Dark; });
-    save("dark-theme");
     check(brightness() < 100, "the canvas is dark again");
 }
 
@@ -179,14 +179,13 @@ void Tour::refuseDrawing()
     m_driver.command("OPEN " + file);
     m_driver.waitForDialog("Open Drawing");
     check(m_driver.dialogText().contains("damaged.dxf"), "the message names the file");
-    save("damaged-drawing-refused");
-    m_driver.key("Return");
-    m_driver.waitForNoDialog();
     check(m_driver.ask([&] { return m_frame.layers().layers()->rowCount(); }) == layers, "the open drawing stays");
 }
 
 void Tour::rebuildEngine()
 {
+    m_driver.key("Return");
+    m_driver.waitForNoDialog();
     m_driver.command("REBUILD");
     waitForLog("The pages run in a new engine.");
     m_driver.waitFor("the pages with what they showed", [&] { return m_driver.hasItem("layer:Toured"); });
@@ -209,8 +208,8 @@ int Tour::run()
         {"broken-page", &Tour::showBrokenPage},
         {"name-refused", &Tour::refuseName},
         {"name-accepted", &Tour::acceptName},
-        {"theme", &Tour::switchTheme},
-        {"damaged-drawing", &Tour::refuseDrawing},
+        {"dark-theme", &Tour::switchTheme},
+        {"damaged-drawing-refused", &Tour::refuseDrawing},
         {"engine-rebuilt", &Tour::rebuildEngine},
         {"drawing-closed", &Tour::closeDrawing},
     };
