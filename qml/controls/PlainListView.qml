@@ -9,8 +9,8 @@ import Tandolin.API.Core.Themes
 FocusScope {
     id: control
 
-    property alias model: rows.model
-    property alias delegate: rows.delegate
+    property alias model: list.model
+    property alias delegate: list.delegate
     property alias currentIndex: list.currentIndex
     readonly property alias count: list.count
     readonly property alias view: list
@@ -86,25 +86,11 @@ FocusScope {
         interval: 1000
     }
 
+    // Reads the texts of rows that the view hasn't made.
     DelegateModel {
         id: rows
 
-        // qmllint disable unqualified
-        delegate: ItemDelegate {
-            required property var model
-            required property int index
-
-            width: ListView.view.width
-            text: model[control.textRole || "modelData"] ?? ""
-            highlighted: ListView.isCurrentItem
-            focusPolicy: Qt.NoFocus
-            onPressed: {
-                control.forceActiveFocus();
-                control.currentIndex = index;
-            }
-            onDoubleClicked: control.activated(index)
-        }
-        // qmllint enable unqualified
+        model: list.model
     }
 
     Rectangle {
@@ -121,11 +107,27 @@ FocusScope {
         anchors.margins: 2
         clip: true
         focus: true
-        model: rows
         keyNavigationEnabled: false
         boundsBehavior: Flickable.StopAtBounds
         highlightMoveDuration: 0
         highlightResizeDuration: 0
+        // qmllint disable unqualified
+        delegate: ItemDelegate {
+            required property var model
+            required property int index
+
+            width: ListView.view.width
+            // A "&" in the data is no mnemonic.
+            text: String(model[control.textRole || "modelData"] ?? "").replace(/&/g, "&&")
+            highlighted: ListView.isCurrentItem
+            focusPolicy: Qt.NoFocus
+            onPressed: {
+                control.forceActiveFocus();
+                control.currentIndex = index;
+            }
+            onDoubleClicked: control.activated(index)
+        }
+        // qmllint enable unqualified
         ScrollBar.vertical: ScrollBar {}
     }
 }

@@ -1,7 +1,6 @@
 #include "palettes.h"
 
-namespace velmqml
-{
+namespace velmqml {
 const std::array<ThemeColor, 30> themeColors = {{
     {"panelBackground", "#2f3236", "#f3f4f6"},
     {"ribbonBackground", "#383c41", "#e9ebee"},

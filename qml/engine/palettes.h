@@ -4,8 +4,7 @@
 
 /// The palettes of the themes: for each of the interface colours, in the order of the host's enumeration, its name and
 /// its value as "#rrggbb". The greys run from the background (0) to the text (10) in every theme.
-namespace velmqml
-{
+namespace velmqml {
 struct ThemeColor
 {
     const char* name;
@@ -14,4 +13,4 @@ struct ThemeColor
 };
 
 extern const std::array<ThemeColor, 30> themeColors;
-}
+} // namespace velmqml

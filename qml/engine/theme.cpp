@@ -5,8 +5,7 @@
 #include <QQmlEngine>
 #include <QVariant>
 
-namespace
-{
+namespace {
 constexpr char mapProperty[] = "colorMap";
 
 QSharedPointer<QQmlPropertyMap> createMap()
@@ -15,10 +14,9 @@ QSharedPointer<QQmlPropertyMap> createMap()
     QJSEngine::setObjectOwnership(map.get(), QJSEngine::CppOwnership);
     return map;
 }
-}
+} // namespace
 
-namespace velmqml
-{
+namespace velmqml {
 Theme::Theme(QQmlEngine* engine) : m_engine(engine), m_colors(createMap())
 {
     fill();
@@ -61,4 +59,4 @@ void Theme::fill()
     for (const ThemeColor& color : themeColors)
         m_colors->insert(QString::fromLatin1(color.name), QString::fromLatin1(dark() ? color.dark : color.light));
 }
-}
+} // namespace velmqml

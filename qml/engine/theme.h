@@ -8,11 +8,10 @@
 class QJSEngine;
 class QQmlEngine;
 
-namespace velmqml
-{
+namespace velmqml {
 /// The colours of the theme that is in force. They are kept in a map of "#rrggbb" texts, which the host finds as the
-/// engine's property "colorMap" and pages as `colors`; whoever changes the map recolours both. Before the first theme is
-/// set, pages see the dark colours and the host none.
+/// engine's property "colorMap" and pages as `colors`; whoever changes the map recolours both. Before the first theme
+/// is set, pages see the dark colours and the host none.
 class Theme : public QObject
 {
     Q_OBJECT
@@ -24,8 +23,8 @@ class Theme : public QObject
 public:
     static Theme* create(QQmlEngine* engine, QJSEngine*);
 
-    /// 0 is the dark theme, 1 the light one; another number warns and gives the dark one. The engine's map is refilled, or
-    /// replaced when the engine's property holds none.
+    /// 0 is the dark theme, 1 the light one; another number warns and gives the dark one. The engine's map is refilled,
+    /// or replaced when the engine's property holds none.
     Q_INVOKABLE void setColorTheme(int theme);
 
     /// The QQmlPropertyMap; a QVariant, so that a page may read any name from it.
@@ -45,4 +44,4 @@ private:
     QSharedPointer<QQmlPropertyMap> m_colors;
     int m_theme = 0;
 };
-}
+} // namespace velmqml

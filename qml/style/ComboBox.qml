@@ -19,7 +19,8 @@ T.ComboBox {
         required property int index
 
         width: ListView.view.width
-        text: model[control.textRole || "modelData"]
+        // A "&" in the data is no mnemonic.
+        text: String(model[control.textRole || "modelData"] ?? "").replace(/&/g, "&&")
         font.bold: control.currentIndex === index
         highlighted: control.highlightedIndex === index
         hoverEnabled: control.hoverEnabled

@@ -1,10 +1,15 @@
 import QtQuick
 
-// The menu of a text that is edited.
+// The menu of a text that is edited. It opens at the mouse at once and goes when it is closed.
 Menu {
     id: menu
 
+    objectName: "editMenu"
+
     required property var control
+
+    Component.onCompleted: popup()
+    onClosed: destroy()
 
     MenuItem {
         text: qsTr("Cu&t")

@@ -9,7 +9,7 @@ T.ScrollBar {
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     padding: 2
     minimumSize: Math.min(1, 24 / Math.max(1, horizontal ? width : height))
-    visible: policy !== T.ScrollBar.AlwaysOff && size < 1
+    visible: policy === T.ScrollBar.AlwaysOn || (policy !== T.ScrollBar.AlwaysOff && size < 1)
 
     contentItem: Rectangle {
         implicitWidth: 7

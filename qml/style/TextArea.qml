@@ -20,8 +20,9 @@ T.TextArea {
     renderType: Metrics.renderType
 
     onReleased: event => {
+        // Made when it is wanted: a table may have a field in every row.
         if (event.button === Qt.RightButton)
-            menu.popup();
+            Qt.createComponent(Qt.resolvedUrl("EditMenu.qml")).createObject(control, {control: control});
     }
 
     Text {
@@ -34,11 +35,6 @@ T.TextArea {
         font: control.font
         renderType: control.renderType
         elide: Text.ElideRight
-    }
-    EditMenu {
-        id: menu
-
-        control: control
     }
     background: FieldSurface {
         control: control

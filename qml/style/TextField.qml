@@ -22,8 +22,9 @@ T.TextField {
     renderType: Metrics.renderType
 
     onReleased: event => {
+        // Made when it is wanted: a table may have a field in every row.
         if (event.button === Qt.RightButton)
-            menu.popup();
+            Qt.createComponent(Qt.resolvedUrl("EditMenu.qml")).createObject(control, {control: control});
     }
 
     Text {
@@ -38,11 +39,6 @@ T.TextField {
         renderType: control.renderType
         verticalAlignment: control.verticalAlignment
         elide: Text.ElideRight
-    }
-    EditMenu {
-        id: menu
-
-        control: control
     }
     background: FieldSurface {
         control: control

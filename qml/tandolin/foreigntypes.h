@@ -13,8 +13,7 @@
 #include <QtQml/qqmlregistration.h>
 
 /// The types of the library as QML sees them. The library registers nothing by itself.
-namespace velmqml
-{
+namespace velmqml {
 /// The singletons come from their own factories, which keep them out of the engine's hands.
 struct SettingsType
 {
@@ -86,4 +85,4 @@ struct UrlAndControllerType
     QML_FOREIGN(velm::UrlAndController)
     QML_VALUE_TYPE(urlAndController)
 };
-}
+} // namespace velmqml

@@ -12,8 +12,7 @@
 
 using namespace velm;
 
-namespace
-{
+namespace {
 constexpr char themeDocument[] = "import QtQuick\n"
                                  "import Tandolin.API.Core.Themes.Engine\n"
                                  "QtObject { id: root; Component.onCompleted: Theme.setColorTheme(0) }";

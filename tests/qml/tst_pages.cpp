@@ -15,8 +15,7 @@
 
 using namespace velm;
 
-namespace
-{
+namespace {
 /// A page in a window that has the keyboard.
 class Shown
 {
@@ -55,7 +54,7 @@ private:
     QQuickWindow m_window;
     bool m_ready = false;
 };
-}
+} // namespace
 
 /// The pages and the shared controls as a user works them.
 class TestPages : public QObject
@@ -70,10 +69,12 @@ private Q_SLOTS:
     void anIconButtonIsClickedByMouseAndKeyboard();
     void aToolTipWaitsForTheSettings();
     void theSearchFieldIsEmptied();
+    void aFieldHasAMenuToEditItsText();
     void aListIsWalkedByKeyboard_data();
     void aListIsWalkedByKeyboard();
     void aListTellsWhatIsActivated();
     void aListFindsRowsOfAnItemModel();
+    void aListBeginsAtTheRowThatItIsGiven();
     void mnemonicsPressTheirButtons();
 
 private:
@@ -151,13 +152,16 @@ void TestPages::theNameDialogAsksForItsEnd_data()
     QTest::addRow("Enter accepts") << QList<int>{Qt::Key_Return} << QString() << "accepted";
     QTest::addRow("Enter of the keypad accepts") << QList<int>{Qt::Key_Enter} << QString() << "accepted";
     QTest::addRow("Escape rejects") << QList<int>{Qt::Key_Escape} << QString() << "rejected";
-    QTest::addRow("Enter on the action button accepts") << QList<int>{Qt::Key_Tab, Qt::Key_Return} << QString() << "accepted";
+    QTest::addRow("Enter on the action button accepts")
+        << QList<int>{Qt::Key_Tab, Qt::Key_Return} << QString() << "accepted";
     QTest::addRow("Enter on Cancel rejects")
         << QList<int>{Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Return} << QString() << "rejected";
     QTest::addRow("Space on Cancel rejects")
         << QList<int>{Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Space} << QString() << "rejected";
-    QTest::addRow("a click on the action button accepts") << QList<int>{} << "accept" << "accepted";
-    QTest::addRow("a click on Cancel rejects") << QList<int>{} << "reject" << "rejected";
+    QTest::addRow("a click on the action button accepts") << QList<int>{} << "accept"
+                                                          << "accepted";
+    QTest::addRow("a click on Cancel rejects") << QList<int>{} << "reject"
+                                               << "rejected";
 }
 
 void TestPages::theNameDialogAsksForItsEnd()
@@ -239,6 +243,27 @@ void TestPages::theSearchFieldIsEmptied()
     // An empty field leaves Escape to the page.
     shown.press(Qt::Key_Escape);
     QCOMPARE(root->property("escaped").toInt(), 1);
+}
+
+void TestPages::aFieldHasAMenuToEditItsText()
+{
+    std::unique_ptr<QObject> page = load("Pane { TextField { objectName: 'field'; text: 'wall' } }");
+    QVERIFY(page);
+    Shown shown(page.release());
+    QVERIFY(shown.isReady());
+    QQuickItem* field = shown.find("field");
+    const QPoint inside = field->mapToScene(QPointF(8, 12)).toPoint();
+    for (int round = 0; round < 2; ++round) {
+        QTest::mouseClick(shown.window(), Qt::RightButton, {}, inside);
+        QTRY_VERIFY(shown.focusItem() != field);
+        // "Select All" is the last entry.
+        for (int entry = 0; entry < 4; ++entry)
+            shown.press(Qt::Key_Down);
+        shown.press(Qt::Key_Return);
+        QCOMPARE(field->property("selectedText").toString(), QStringLiteral("wall"));
+        QTRY_VERIFY(field->findChildren<QObject*>(QStringLiteral("editMenu")).isEmpty());
+        QMetaObject::invokeMethod(field, "deselect");
+    }
 }
 
 void TestPages::aListIsWalkedByKeyboard_data()
@@ -328,6 +353,16 @@ void TestPages::aListFindsRowsOfAnItemModel()
     shown.type("z");
     shown.press(Qt::Key_End);
     QCOMPARE(list->property("currentIndex"), row);
+}
+
+void TestPages::aListBeginsAtTheRowThatItIsGiven()
+{
+    const std::unique_ptr<QObject> page = load(
+        "PlainListView { currentIndex: 2; model: { let rows = []; for (let i = 0; i < 9; ++i) rows.push('Row ' + i);\n"
+        "return rows; } }");
+    QVERIFY(page);
+    QCOMPARE(page->property("currentIndex").toInt(), 2);
+    QCOMPARE(page->property("count").toInt(), 9);
 }
 
 void TestPages::mnemonicsPressTheirButtons()

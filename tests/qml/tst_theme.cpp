@@ -1,5 +1,5 @@
-#include <QGuiApplication>
 #include <QColor>
+#include <QGuiApplication>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQmlPropertyMap>
@@ -11,8 +11,7 @@
 
 using ColorMap = QSharedPointer<QQmlPropertyMap>;
 
-namespace
-{
+namespace {
 double linear(double channel)
 {
     return channel <= 0.03928 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
@@ -69,7 +68,7 @@ struct Page
     QQmlEngine engine;
     std::unique_ptr<QObject> object;
 };
-}
+} // namespace
 
 class TestTheme : public QObject
 {
@@ -192,8 +191,8 @@ void TestTheme::textsStandOutFromTheirBackgrounds_data()
     QTest::addColumn<QString>("front");
     QTest::addColumn<QStringList>("backs");
     QTest::addColumn<double>("ratio");
-    const QStringList texts = {"background", "ribbon", "popup", "input", "combo", "tabStrip", "tabActive",
-                               "button", "buttonHover", "buttonPressed", "hover", "selection"};
+    const QStringList texts = {"background", "ribbon", "popup",       "input",         "combo", "tabStrip",
+                               "tabActive",  "button", "buttonHover", "buttonPressed", "hover", "selection"};
     const QStringList panels = {"background", "popup", "input"};
     for (const int theme : {0, 1}) {
         const char* name = theme == 0 ? "dark" : "light";
@@ -235,7 +234,8 @@ void TestTheme::greysRunFromBackgroundToText()
         for (int i = 1; i <= 10; ++i) {
             const double step = luminance(page.mapColor(QStringLiteral("grey%1").arg(i))) -
                                 luminance(page.mapColor(QStringLiteral("grey%1").arg(i - 1)));
-            QVERIFY2(theme == 0 ? step > 0 : step < 0, qPrintable(QStringLiteral("theme %1, grey%2").arg(theme).arg(i)));
+            QVERIFY2(theme == 0 ? step > 0 : step < 0,
+                     qPrintable(QStringLiteral("theme %1, grey%2").arg(theme).arg(i)));
         }
         // The application's style sheet sets the one on the other.
         QVERIFY(contrast(page.mapColor(QStringLiteral("grey10")), page.mapColor(QStringLiteral("grey3"))) >= 7.0);
