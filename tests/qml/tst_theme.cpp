@@ -7,6 +7,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <algorithm>
 #include <cmath>
 
 using ColorMap = QSharedPointer<QQmlPropertyMap>;
@@ -24,7 +25,7 @@ double luminance(const QColor& color)
 
 double contrast(const QColor& a, const QColor& b)
 {
-    const auto [darker, lighter] = std::minmax(luminance(a), luminance(b));
+    const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
     return (lighter + 0.05) / (darker + 0.05);
 }
 
