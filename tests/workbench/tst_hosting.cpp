@@ -19,7 +19,7 @@ class HostingTest : public QObject
 {
     Q_OBJECT
 public:
-    explicit HostingTest(WorkbenchApp& app) : m_driver(app), m_frame(*app.frame()) {}
+    explicit HostingTest(Driver& driver) : m_driver(driver), m_frame(*driver.app().frame()) {}
 
 private Q_SLOTS:
     void init();
@@ -51,9 +51,10 @@ private:
     void startRenaming();
     /// Where the keyboard is: the name of a page's item, or of a window of the host.
     QString keyboardPlace();
+    void waitForKeyboard(const QString& place);
     QStringList walk(const QString& keys, int steps);
 
-    Driver m_driver;
+    Driver& m_driver;
     MainFrame& m_frame;
     QTemporaryDir m_folder;
 };
@@ -76,7 +77,17 @@ void HostingTest::init()
     m_driver.waitFor("the layers on the screen", [&] { return m_driver.hasItem("layer:Beta"); });
     wxTextCtrl* input = m_frame.commandLine().input();
     m_driver.click(*input);
-    m_driver.waitFor("the keyboard in the command line", [&] { return keyboardPlace() == "input"; });
+    waitForKeyboard("input");
+}
+
+void HostingTest::waitForKeyboard(const QString& place)
+{
+    QString now;
+    try {
+        m_driver.waitFor(place, [&] { return (now = keyboardPlace()) == place; });
+    } catch (const DriverError&) {
+        throw DriverError(QString("the keyboard is not in %1 but in %2").arg(place, now));
+    }
 }
 
 void HostingTest::cleanup()
@@ -113,7 +124,7 @@ QString HostingTest::keyboardPlace()
 void HostingTest::clickSearchField()
 {
     m_driver.clickItem("search");
-    m_driver.waitFor("the keyboard in the search field", [&] { return keyboardPlace() == "search"; });
+    waitForKeyboard("search");
 }
 
 void HostingTest::startRenaming()
@@ -121,7 +132,7 @@ void HostingTest::startRenaming()
     m_driver.clickItem("layer:Alpha");
     m_driver.clickItem("rename");
     m_driver.waitForDialog("Rename Layer");
-    m_driver.waitFor("the keyboard in the name field", [&] { return keyboardPlace() == "name"; });
+    waitForKeyboard("name");
 }
 
 QStringList HostingTest::walk(const QString& keys, int steps)
@@ -141,14 +152,14 @@ void HostingTest::tabWalksThroughAPageAndOutAgainBothWays()
 {
     m_driver.clickItem("layer:Alpha");
     m_driver.click(*m_frame.commandLine().input());
-    m_driver.waitFor("the keyboard in the command line", [&] { return keyboardPlace() == "input"; });
+    waitForKeyboard("input");
 
     QStringList round;
     while (round.isEmpty() || (round.last() != "input" && round.size() < 20))
         round += walk("Tab", 1);
     const qsizetype search = round.indexOf("search");
     QVERIFY2(search >= 0, qPrintable(round.join(' ')));
-    QCOMPARE(round.mid(search, 3), QStringList({"search", "layers", "rename"}));
+    QCOMPARE(round.mid(search, 3), QStringList({"search", "layer:Alpha", "rename"}));
     QCOMPARE(round.count("search"), 1);
     QCOMPARE(round.last(), QString("input"));
 
@@ -167,7 +178,7 @@ void HostingTest::escapeIsThePagesFirstAndTheHostsThen()
     m_driver.waitFor("all layers in the list", [&] { return m_driver.hasItem("layer:Beta"); });
     QCOMPARE(keyboardPlace(), QString("search"));
     m_driver.key("Escape");
-    m_driver.waitFor("the keyboard in the command line", [&] { return keyboardPlace() == "input"; });
+    waitForKeyboard("input");
 }
 
 void HostingTest::aShortcutOfTheHostWorksInAPage()
@@ -177,7 +188,7 @@ void HostingTest::aShortcutOfTheHostWorksInAPage()
     m_driver.ask([&] { m_frame.canvas().zoomBy(3.0, wxPoint(10, 10)); });
     QVERIFY(!qFuzzyCompare(m_driver.ask(scale), fitted));
     clickSearchField();
-    m_driver.key("ctrl+e");
+    m_driver.key("ctrl+0");
     m_driver.waitFor("the whole drawing", [&] { return qFuzzyCompare(scale(), fitted); });
     QCOMPARE(keyboardPlace(), QString("search"));
 }
@@ -187,7 +198,7 @@ void HostingTest::aClickMovesTheKeyboardBetweenTheToolkits()
     clickSearchField();
     m_driver.type("a");
     m_driver.click(*m_frame.commandLine().input());
-    m_driver.waitFor("the keyboard in the command line", [&] { return keyboardPlace() == "input"; });
+    waitForKeyboard("input");
     m_driver.type("xyz");
     m_driver.waitFor("the text in the command line",
                      [&] { return m_frame.commandLine().input()->GetValue() == "xyz"; });
@@ -214,7 +225,7 @@ void HostingTest::aModalDialogBlocksPagesAndGivesTheKeyboardBack()
     m_driver.waitForNoDialog();
     QCOMPARE(m_driver.property("on:Alpha", "checked").toBool(), true);
     QCOMPARE(m_driver.property("search", "text").toString(), QString());
-    m_driver.waitFor("the keyboard in the search field again", [&] { return keyboardPlace() == "search"; });
+    waitForKeyboard("search");
     m_driver.type("b");
     m_driver.waitFor("the search", [&] { return !m_driver.hasItem("layer:Alpha"); });
     m_driver.key("Escape");
@@ -240,7 +251,7 @@ void HostingTest::aNameIsRefusedUntilItIsGood()
     m_driver.clickItem("accept");
     m_driver.waitFor("the refusal", [&] { return m_driver.dialogText().contains(reason); });
     m_driver.key("Return");
-    m_driver.waitFor("the name field again", [&] { return keyboardPlace() == "name"; });
+    waitForKeyboard("name");
     QCOMPARE(m_driver.property("name", "text").toString(), bad);
     m_driver.replaceText("Gamma");
     m_driver.waitFor("the good name", [&] { return m_driver.property("name", "text") == "Gamma"; });
@@ -257,7 +268,7 @@ void HostingTest::aCancelledRenamingChangesNothing()
     m_driver.key("Escape");
     m_driver.waitForNoDialog();
     QVERIFY(m_driver.hasItem("layer:Alpha"));
-    m_driver.waitFor("the keyboard in the panel again", [&] { return QString("rename layers").contains(keyboardPlace()); });
+    m_driver.waitFor("the keyboard in the panel again", [&] { return QString("rename layer:Alpha").contains(keyboardPlace()); });
 }
 
 void HostingTest::aClickSwitchesALayerOff()
@@ -355,7 +366,7 @@ void HostingTest::aThemeRecoloursBothToolkitsAndIsStored()
 
 void HostingTest::aDamagedDrawingLeavesTheOpenOne()
 {
-    const QString drawing = write("damaged.dxf", smallDrawing().left(400));
+    const QString drawing = write("damaged.dxf", smallDrawing().chopped(60));
     m_driver.command("OPEN " + drawing);
     m_driver.waitForDialog("Open Drawing");
     QVERIFY2(m_driver.dialogText().contains("damaged.dxf"), qPrintable(m_driver.dialogText()));

@@ -9,13 +9,13 @@ class WorkbenchStartTest : public QObject
 {
     Q_OBJECT
 public:
-    explicit WorkbenchStartTest(WorkbenchApp& app) : m_driver(app) {}
+    explicit WorkbenchStartTest(Driver& driver) : m_driver(driver) {}
 
 private Q_SLOTS:
     void settingsThatCannotBeStoredAreToldOnceAndTheProgramRuns();
 
 private:
-    Driver m_driver;
+    Driver& m_driver;
 };
 
 void WorkbenchStartTest::settingsThatCannotBeStoredAreToldOnceAndTheProgramRuns()

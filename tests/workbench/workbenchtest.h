@@ -10,18 +10,29 @@
 #include "tour/driver.h"
 #include "velm/bridge/conversions.h"
 
+#include <QFileInfo>
 #include <QQuickItem>
 #include <QTemporaryDir>
 #include <QtTest>
 
 /// Runs the tests of a class against the running program: they work it from a thread of their own, by a real mouse and
-/// keyboard, while it serves its events. The class is made from the program.
+/// keyboard, while it serves its events. The class is made from the driver.
 template <typename Test>
 int runInWorkbench(int argc, char** argv)
 {
     return workbench::run(1, argv, [argc, argv](workbench::WorkbenchApp& app) {
-        Test test(app);
-        return QTest::qExec(&test, argc, argv);
+        workbench::Driver driver(app);
+        try {
+            driver.waitForStart();
+            Test test(driver);
+            return QTest::qExec(&test, argc, argv);
+        } catch (const workbench::DriverError& error) {
+            // Qt Test has counted the failure, but nothing of what was waited for.
+            const QString picture = QFileInfo(argv[0]).fileName() + ".failure.png";
+            driver.savePicture(picture);
+            qCritical("%s\nThe screen then: %s", error.what(), qPrintable(QFileInfo(picture).absoluteFilePath()));
+            return 1;
+        }
     });
 }
 

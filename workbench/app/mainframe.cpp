@@ -136,7 +136,7 @@ std::vector<Action> MainFrame::actions()
         {_("&File"), _("&Close"), "Ctrl+W", _("Close the drawing"), [this] { m_documents.close(); }, {}, hasDrawing},
         {_("&File"), {}, {}, {}, {}, {}, {}},
         {_("&File"), _("E&xit"), "Ctrl+Q", _("End the program"), [this] { Close(); }, {}, {}},
-        {_("&View"), _("Zoom &extents"), "Ctrl+E", _("Show the whole drawing"), [this] { m_canvas->zoomExtents(); }, {},
+        {_("&View"), _("Zoom &extents"), "Ctrl+0", _("Show the whole drawing"), [this] { m_canvas->zoomExtents(); }, {},
          hasDrawing},
         {_("&View"), {}, {}, {}, {}, {}, {}},
         theme(ut::EGuiColorTheme::Dark, _("&Dark theme")),

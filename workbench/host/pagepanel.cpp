@@ -196,7 +196,8 @@ void PagePanel::handOn(const QKeyEvent& event)
         return;
     key.SetEventObject(this);
     // Queued: a command may open a dialog, and the page must not wait for its end within its own key event.
-    if (const int command = m_accelerators.IsOk() ? m_accelerators.GetCommand(key) : wxNOT_FOUND; command > 0) {
+    if (const int command = m_accelerators.IsOk() ? m_accelerators.GetCommand(key) : wxNOT_FOUND;
+        command != wxNOT_FOUND) {
         wxGetTopLevelParent(this)->GetEventHandler()->QueueEvent(new wxCommandEvent(wxEVT_MENU, command));
         return;
     }

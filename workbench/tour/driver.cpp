@@ -51,6 +51,11 @@ void collectTexts(const wxWindow& window, QString& texts)
 }
 } // namespace
 
+void Driver::waitForStart()
+{
+    waitFor("the program's window", [this] { return m_app.frame()->IsActive(); });
+}
+
 void Driver::invoke(const std::function<void()>& function)
 {
     if (QThread::currentThread() == qApp->thread())
@@ -157,7 +162,12 @@ QRect Driver::rectOf(wxWindow& window)
 
 void Driver::click(wxWindow& window)
 {
-    click(rectOf(window).center());
+    QRect place;
+    waitFor("a window to be in its place", [&] {
+        const QRect now = rectOf(window);
+        return window.IsShownOnScreen() && std::exchange(place, now) == now;
+    });
+    click(place.center());
 }
 
 void Driver::key(const QString& keys)

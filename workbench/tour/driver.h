@@ -48,6 +48,8 @@ public:
             return result;
         }
     }
+    /// Waits until the program's window is the active one.
+    void waitForStart();
     /// Starts a function on the program's thread without waiting for its end, since it may run a dialog.
     void start(std::function<void()> function);
 

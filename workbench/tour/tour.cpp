@@ -90,6 +90,7 @@ void Tour::showTab(int tab)
 
 void Tour::openDrawing()
 {
+    m_driver.waitForStart();
     m_driver.waitFor("the drawing's layers in the list", [&] { return m_frame.layers().layers()->rowCount() > 2; }, 30000);
     m_driver.waitFor("the drawing on the canvas", [&] { return m_frame.canvas().drawnEntityCount() > 0; });
     m_driver.waitFor("the list on the screen", [&] { return m_driver.hasItem("layer:0"); });
