@@ -73,7 +73,11 @@ void PageView::focusEnd(bool first)
 
 bool PageView::hasFocusItem() const
 {
-    return activeFocusItem() && activeFocusItem() != contentItem() && activeFocusItem() != m_root.get();
+    // An inactive window has no active item, but its scopes remember theirs.
+    const QQuickItem* item = contentItem();
+    while (item->isFocusScope() && item->scopedFocusItem())
+        item = item->scopedFocusItem();
+    return item != contentItem() && item != m_root.get();
 }
 
 bool PageView::leavesByTab(bool forward) const

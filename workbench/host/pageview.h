@@ -27,7 +27,7 @@ public:
 
     /// Gives the focus to the page's first item that Tab reaches, or to its last one.
     void focusEnd(bool first);
-    /// Whether one of the page's items has the page's focus.
+    /// Whether one of the page's items has the page's focus, or gets it when the page becomes active.
     bool hasFocusItem() const;
 
     std::function<void()> onPressed;             ///< a mouse button went down in the page
