@@ -101,7 +101,10 @@ void HostingTest::cleanupTestCase()
     const QString page = write("Last.qml", "import QtQuick\nRectangle { color: 'red'\n"
                                            "NumberAnimation on opacity { from: 0; to: 1; duration: 200; loops: -1 } }");
     m_driver.command("PAGE " + page);
-    m_driver.start([this] { m_frame.layers().setCurrentRow(1); m_frame.layers().renameCurrent(); });
+    m_driver.start([this] {
+        m_frame.layers().setCurrentRow(1);
+        m_frame.layers().renameCurrent();
+    });
     m_driver.waitForDialog("Rename Layer");
 }
 
@@ -214,9 +217,8 @@ void HostingTest::aModalDialogBlocksPagesAndGivesTheKeyboardBack()
 {
     m_driver.clickItem("layer:Beta");
     waitForKeyboard("layer:Beta");
-    m_driver.start([] {
-        velm::dlgFactory()->showInfoMessage(L"Note", L"Something", nullptr, velm::MessageButtonStyle::OK);
-    });
+    m_driver.start(
+        [] { velm::dlgFactory()->showInfoMessage(L"Note", L"Something", nullptr, velm::MessageButtonStyle::OK); });
     m_driver.waitForDialog("Note");
     m_driver.clickItem("on:Alpha");
     m_driver.clickItem("search");
@@ -235,9 +237,12 @@ void HostingTest::aNameIsRefusedUntilItIsGood_data()
 {
     QTest::addColumn<QString>("bad");
     QTest::addColumn<QString>("reason");
-    QTest::newRow("a name of another layer, in other letters") << "beta" << "already";
-    QTest::newRow("a forbidden character") << "Al/pha" << "characters";
-    QTest::newRow("blanks alone") << "  " << "needs a name";
+    QTest::newRow("a name of another layer, in other letters") << "beta"
+                                                               << "already";
+    QTest::newRow("a forbidden character") << "Al/pha"
+                                           << "characters";
+    QTest::newRow("blanks alone") << "  "
+                                  << "needs a name";
 }
 
 void HostingTest::aNameIsRefusedUntilItIsGood()
@@ -269,7 +274,8 @@ void HostingTest::aCancelledRenamingChangesNothing()
     m_driver.key("Escape");
     m_driver.waitForNoDialog();
     QVERIFY(m_driver.hasItem("layer:Alpha"));
-    m_driver.waitFor("the keyboard in the panel again", [&] { return QString("rename layer:Alpha").contains(keyboardPlace()); });
+    m_driver.waitFor("the keyboard in the panel again",
+                     [&] { return QString("rename layer:Alpha").contains(keyboardPlace()); });
 }
 
 void HostingTest::aClickSwitchesALayerOff()

@@ -27,9 +27,8 @@ void WorkbenchStartTest::settingsThatCannotBeStoredAreToldOnceAndTheProgramRuns(
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression("settings\\.ini"));
     m_driver.command("THEME LIGHT");
     wxWindow& canvas = m_driver.app().frame()->canvas();
-    m_driver.waitFor("the light theme", [&] {
-        return m_driver.picture().pixelColor(m_driver.rectOf(canvas).center()).lightness() > 128;
-    });
+    m_driver.waitFor("the light theme",
+                     [&] { return m_driver.picture().pixelColor(m_driver.rectOf(canvas).center()).lightness() > 128; });
     QVERIFY(!m_driver.ask([&] { return m_driver.dialog() != nullptr; }));
 }
 

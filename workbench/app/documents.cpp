@@ -48,8 +48,7 @@ private:
 
 Documents::Documents(OdApDocManager& manager, velm::IDialogFactory& dialogs, PageGroup& pages)
     : m_manager(manager), m_dialogs(dialogs), m_pages(pages)
-{
-}
+{}
 
 bool Documents::open(const wxString& file)
 {

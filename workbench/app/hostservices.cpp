@@ -21,7 +21,8 @@ QString documentationFile(const QString& key)
 }
 } // namespace
 
-HostServices::HostServices(PageGroup& pages) : m_gui(pages), m_dialogs(pages) {}
+HostServices::HostServices(PageGroup& pages) : m_gui(pages), m_dialogs(pages)
+{}
 
 velm::IUnitFormatter* HostServices::formatterFor(double value)
 {
@@ -65,9 +66,7 @@ velm::ExternalFunctions HostServices::functions()
         else if (m_commandLine)
             m_commandLine->log(velm::wxFromQt(QStringLiteral("There is no documentation page \"%1\".").arg(key)));
     };
-    functions.getWebDocUrl = [](const QString& key) {
-        return QUrl::fromLocalFile(documentationFile(key)).toString();
-    };
+    functions.getWebDocUrl = [](const QString& key) { return QUrl::fromLocalFile(documentationFile(key)).toString(); };
     return functions;
 }
 } // namespace workbench

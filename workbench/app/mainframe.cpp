@@ -32,9 +32,9 @@ const OdString maximizedKey = L"MainWindow/Maximized";
 } // namespace
 
 MainFrame::MainFrame(VelmSession& session, HostServices& services, PageGroup& pages)
-    : wxFrame(nullptr, wxID_ANY, "velm workbench", wxDefaultPosition, wxSize(1100, 720)), m_session(session), m_services(services), m_pages(pages),
-      m_documents(services.documents(), services.dialogs(), pages), m_layers(services.documents(), services.dialogs()),
-      m_drawingInfo(services.documents())
+    : wxFrame(nullptr, wxID_ANY, "velm workbench", wxDefaultPosition, wxSize(1100, 720)), m_session(session),
+      m_services(services), m_pages(pages), m_documents(services.documents(), services.dialogs(), pages),
+      m_layers(services.documents(), services.dialogs()), m_drawingInfo(services.documents())
 {
     build();
     addCommands();
@@ -127,31 +127,58 @@ std::vector<Action> MainFrame::actions()
 {
     const auto hasDrawing = [this] { return m_documents.current() != nullptr; };
     const auto theme = [this](ut::EGuiColorTheme wanted, const wxString& label) {
-        return Action{_("&View"), label, {}, _("Change the colours of the whole program"),
+        return Action{_("&View"),
+                      label,
+                      {},
+                      _("Change the colours of the whole program"),
                       [this, wanted] { setTheme(wanted, false); },
-                      [this, wanted] { return m_session.theme() == wanted; }, {}};
+                      [this, wanted] { return m_session.theme() == wanted; },
+                      {}};
     };
     return {
         {_("&File"), _("&Open..."), "Ctrl+O", _("Open a drawing"), [this] { askForDrawing(); }, {}, {}},
         {_("&File"), _("&Close"), "Ctrl+W", _("Close the drawing"), [this] { m_documents.close(); }, {}, hasDrawing},
         {_("&File"), {}, {}, {}, {}, {}, {}},
         {_("&File"), _("E&xit"), "Ctrl+Q", _("End the program"), [this] { Close(); }, {}, {}},
-        {_("&View"), _("Zoom &extents"), "Ctrl+0", _("Show the whole drawing"), [this] { m_canvas->zoomExtents(); }, {},
+        {_("&View"),
+         _("Zoom &extents"),
+         "Ctrl+0",
+         _("Show the whole drawing"),
+         [this] { m_canvas->zoomExtents(); },
+         {},
          hasDrawing},
         {_("&View"), {}, {}, {}, {}, {}, {}},
         theme(ut::EGuiColorTheme::Dark, _("&Dark theme")),
         theme(ut::EGuiColorTheme::Light, _("&Light theme")),
         {_("&View"), {}, {}, {}, {}, {}, {}},
-        {_("&View"), _("&Rebuild engine"), "Ctrl+R", _("Load all pages into a new engine"),
-         [this] { m_commandLine->processCommand("REBUILD"); }, {}, {}},
-        {_("&Layer"), _("&Rename..."), "F2", _("Give the current layer another name"),
-         [this] { m_layers.renameCurrent(); }, {}, [this] { return m_layers.canRename(); }},
-        {_("&Help"), _("&About"), {}, _("What this program is"), [this] {
+        {_("&View"),
+         _("&Rebuild engine"),
+         "Ctrl+R",
+         _("Load all pages into a new engine"),
+         [this] { m_commandLine->processCommand("REBUILD"); },
+         {},
+         {}},
+        {_("&Layer"),
+         _("&Rename..."),
+         "F2",
+         _("Give the current layer another name"),
+         [this] { m_layers.renameCurrent(); },
+         {},
+         [this] { return m_layers.canRename(); }},
+        {_("&Help"),
+         _("&About"),
+         {},
+         _("What this program is"),
+         [this] {
              m_services.dialogs().showInfoMessage(
-                 _("About").wc_str(), _("velm workbench\n\nA small host that shows velm: Qt Quick panels and dialogs "
-                                        "inside a wxWidgets drawing application.").wc_str(),
+                 _("About").wc_str(),
+                 _("velm workbench\n\nA small host that shows velm: Qt Quick panels and dialogs "
+                   "inside a wxWidgets drawing application.")
+                     .wc_str(),
                  nullptr, velm::MessageButtonStyle::OK);
-         }, {}, {}},
+         },
+         {},
+         {}},
     };
 }
 
@@ -270,9 +297,9 @@ void MainFrame::showCursor(const OdGePoint3d& point)
     if (!document)
         return;
     const OdUnitsFormatter& formatter = document->database()->formatter();
-    SetStatusText(wxString::Format("%s,  %s", formatter.formatLinear(point.x).c_str(),
-                                   formatter.formatLinear(point.y).c_str()),
-                  0);
+    SetStatusText(
+        wxString::Format("%s,  %s", formatter.formatLinear(point.x).c_str(), formatter.formatLinear(point.y).c_str()),
+        0);
 }
 
 void MainFrame::showState()
@@ -287,9 +314,9 @@ void MainFrame::warnOfConfiguration()
 {
     if (ut::Config::isWritable())
         return;
-    const wxString text = wxString::Format(
-        _("The settings can't be stored: %s can't be written. They last until the program ends."),
-        ut::Config::fileName().c_str());
+    const wxString text =
+        wxString::Format(_("The settings can't be stored: %s can't be written. They last until the program ends."),
+                         ut::Config::fileName().c_str());
     m_commandLine->log(text);
     m_services.dialogs().showWarningMessage(_("Settings").wc_str(), text.wc_str(), this, velm::MessageButtonStyle::OK);
 }

@@ -2,9 +2,9 @@
 
 #include "app/documents.h"
 #include "command/commands.h"
+#include "od/odge.h"
 #include "panels/drawinginfo.h"
 #include "panels/layerscontroller.h"
-#include "od/odge.h"
 #include "ut/themecolors.h"
 
 #include <wx/frame.h>

@@ -9,6 +9,8 @@
 #include "velm/bridge/engine.h"
 
 #include <QApplication>
+#include <QFile>
+#include <QTemporaryDir>
 #include <QThread>
 
 #include <wx/cmdline.h>
@@ -63,7 +65,7 @@ int WorkbenchApp::OnRun()
 {
     std::function<int(WorkbenchApp&)> work = std::exchange(whenRunningFunction(), {});
     if (!m_tourFolder.isEmpty())
-        work = [this](WorkbenchApp& app) { return runTour(app, m_tourFolder); };
+        work = [this](WorkbenchApp& app) { return runTour(app, m_tourFolder, !m_drawing.isEmpty()); };
     std::unique_ptr<QThread> worker;
     if (work) {
         worker.reset(QThread::create([this, work] {
@@ -101,6 +103,11 @@ int run(int argc, char** argv, std::function<int(WorkbenchApp&)> whenRunning)
     QApplication application(argc, argv);
     // The host's frame decides when the program ends.
     QApplication::setQuitOnLastWindowClosed(false);
+    // A tour begins like a first start, and leaves the person's settings alone.
+    const QTemporaryDir tourSettings;
+    for (int index = 1; index < argc; ++index)
+        if (QByteArrayView(argv[index]).startsWith("--tour"))
+            qputenv("TANDOLIN_CONFIG", QFile::encodeName(tourSettings.filePath("settings.ini")));
     whenRunningFunction() = std::move(whenRunning);
     auto* app = new WorkbenchApp;
     wxApp::SetInstance(app);

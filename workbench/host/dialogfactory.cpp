@@ -6,7 +6,8 @@
 #include <wx/colordlg.h>
 
 namespace workbench {
-DialogFactory::DialogFactory(PageGroup& pages) : m_pages(pages) {}
+DialogFactory::DialogFactory(PageGroup& pages) : m_pages(pages)
+{}
 
 wxWindow* DialogFactory::parentFor(wxWindow* parent) const
 {

@@ -14,11 +14,12 @@
 namespace workbench {
 namespace {
 // The standard lineweights, in hundredths of a millimetre.
-constexpr int lineWeights[] = {0,  5,  9,  13, 15, 18, 20,  25,  30,  35,  40,  50,
+constexpr int lineWeights[] = {0,  5,  9,  13, 15, 18,  20,  25,  30,  35,  40,  50,
                                53, 60, 70, 80, 90, 100, 106, 120, 140, 158, 200, 211};
 } // namespace
 
-GuiController::GuiController(PageGroup& pages) : m_pages(pages), m_colors(velm::createEmptyGuiController()) {}
+GuiController::GuiController(PageGroup& pages) : m_pages(pages), m_colors(velm::createEmptyGuiController())
+{}
 
 GuiController::~GuiController() = default;
 

@@ -9,8 +9,8 @@ namespace workbench {
 class PageGroup;
 
 /// The host's GUI service: dialogs with pages, addresses opened in the browser, and the lineweight table. The shared
-/// colours are velm's own. Not supported, and answered as by a host without them: linetype lists and pictures, described
-/// colours, and what only other hosts' plugins ask for.
+/// colours are velm's own. Not supported, and answered as by a host without them: linetype lists and pictures,
+/// described colours, and what only other hosts' plugins ask for.
 class GuiController : public velm::IGuiController
 {
 public:
@@ -61,7 +61,7 @@ public:
 
 private:
     PageGroup& m_pages;
-    std::unique_ptr<velm::IGuiController> m_colors; // keeps the shared colours
+    std::unique_ptr<velm::IGuiController> m_colors;   // keeps the shared colours
     std::vector<velm::IHostDialog*> m_contextDialogs; // not owned
 };
 } // namespace workbench

@@ -2,8 +2,7 @@
 
 #include "velm/bridge/iqtcontroller.h"
 
-namespace workbench
-{
+namespace workbench {
 /// An IQtController without the operations that only other hosts have a use for.
 class HostPage : public velm::IQtController
 {
@@ -23,4 +22,4 @@ public:
     void hostOperation13() override {}
     void getInterfaces(std::vector<velm::IQtControllerInterface*>&) const override {}
 };
-}
+} // namespace workbench

@@ -48,8 +48,8 @@ MessageDialog::MessageDialog(wxWindow* parent, const wxString& caption, const wx
         texts->Add(m_question, 0, wxTOP, FromDIP(margin));
     }
     auto* upper = new wxBoxSizer(wxHORIZONTAL);
-    upper->Add(new wxStaticBitmap(this, wxID_ANY, wxArtProvider::GetBitmap(icon(style), wxART_MESSAGE_BOX)), 0,
-               wxRIGHT, FromDIP(margin));
+    upper->Add(new wxStaticBitmap(this, wxID_ANY, wxArtProvider::GetBitmap(icon(style), wxART_MESSAGE_BOX)), 0, wxRIGHT,
+               FromDIP(margin));
     upper->Add(texts, 1, wxALIGN_CENTRE_VERTICAL);
     auto* row = new wxBoxSizer(wxHORIZONTAL);
     row->AddStretchSpacer();

@@ -7,8 +7,8 @@
 class wxCheckBox;
 
 namespace workbench {
-/// A message box with any buttons, whose modal run gives the id of the pressed one. Escape and the window's close button
-/// stand for the button of Cancel, else of No, else for the last one.
+/// A message box with any buttons, whose modal run gives the id of the pressed one. Escape and the window's close
+/// button stand for the button of Cancel, else of No, else for the last one.
 class MessageDialog : public wxDialog
 {
 public:

@@ -5,8 +5,7 @@
 
 #include <algorithm>
 
-namespace workbench
-{
+namespace workbench {
 ModalStack::ModalStack()
 {
     Register();
@@ -46,4 +45,4 @@ void ModalStack::Exit(wxDialog* dialog)
     if (onChanged)
         onChanged();
 }
-}
+} // namespace workbench

@@ -8,8 +8,7 @@
 class wxDialog;
 class wxWindow;
 
-namespace workbench
-{
+namespace workbench {
 /// The modal dialogs that run, of whatever class, innermost last. The toolkit's own modality doesn't reach pages, since
 /// they are windows of another toolkit; whoever hosts one asks here.
 class ModalStack : private wxModalDialogHook
@@ -34,4 +33,4 @@ private:
 
     std::vector<wxDialog*> m_dialogs; // not owned
 };
-}
+} // namespace workbench

@@ -6,8 +6,7 @@
 
 class wxWindow;
 
-namespace workbench::native
-{
+namespace workbench::native {
 /// The road by which the keyboard focus came to a window.
 enum class FocusRoad
 {
@@ -19,10 +18,10 @@ enum class FocusRoad
 /// What a window that holds another toolkit's window must hear of.
 struct WindowHooks
 {
-    std::function<void(std::uintptr_t)> created;   ///< the native window exists; its XID
-    std::function<void()> goes;                    ///< it is about to go, or has gone already when the server took it
-    std::function<void(bool)> mapped;              ///< it came on the screen or left it
-    std::function<void(FocusRoad)> focused;        ///< the host's focus came to it
+    std::function<void(std::uintptr_t)> created; ///< the native window exists; its XID
+    std::function<void()> goes;                  ///< it is about to go, or has gone already when the server took it
+    std::function<void(bool)> mapped;            ///< it came on the screen or left it
+    std::function<void(FocusRoad)> focused;      ///< the host's focus came to it
 };
 
 /// Watches the native side of one window for its whole life.
@@ -53,8 +52,8 @@ private:
 /// Makes the window the widget that has its top-level window's focus, without asking the X server for the keyboard.
 void makeFocusWidget(wxWindow& window);
 bool isFocusWidget(const wxWindow& window);
-/// Brings the X keyboard focus back to the top-level window around `window`, to the widget that has its focus. The answer
-/// of the server comes later.
+/// Brings the X keyboard focus back to the top-level window around `window`, to the widget that has its focus. The
+/// answer of the server comes later.
 void takeKeyboard(wxWindow& window);
 /// Gives the X keyboard focus to a native window inside `window`.
 void giveKeyboard(wxWindow& window, std::uintptr_t child);
@@ -62,4 +61,4 @@ void giveKeyboard(wxWindow& window, std::uintptr_t child);
 void moveFocus(wxWindow& window, bool forward);
 /// Sets the colours of all of the host's own controls, as style sheet text of the toolkit.
 void setStyleSheet(const char* css, bool dark);
-}
+} // namespace workbench::native

@@ -7,10 +7,8 @@
 
 #include <utility>
 
-namespace workbench::native
-{
-namespace
-{
+namespace workbench::native {
+namespace {
 GtkWidget* toplevelOf(const wxWindow& window)
 {
     GtkWidget* widget = window.GetHandle();
@@ -35,20 +33,20 @@ FocusRoad currentFocusRoad()
         gdk_event_free(event);
     return road;
 }
-}
+} // namespace
 
 struct WindowWatcher::Pimpl
 {
     WindowHooks hooks;
-    GtkWidget* widget = nullptr;       // not owned; null once it is destroyed
+    GtkWidget* widget = nullptr;         // not owned; null once it is destroyed
     GdkWindow* filteredWindow = nullptr; // not owned; null once it is gone
 
     void realized()
     {
         filteredWindow = gtk_widget_get_window(widget);
         const auto id = GDK_WINDOW_XID(filteredWindow);
-        gdk_window_set_events(filteredWindow, static_cast<GdkEventMask>(gdk_window_get_events(filteredWindow) |
-                                                                        GDK_STRUCTURE_MASK));
+        gdk_window_set_events(filteredWindow,
+                              static_cast<GdkEventMask>(gdk_window_get_events(filteredWindow) | GDK_STRUCTURE_MASK));
         gdk_window_add_filter(filteredWindow, onNativeEvent, this);
         hooks.created(id);
         if (gtk_widget_get_mapped(widget))
@@ -206,4 +204,4 @@ void setStyleSheet(const char* css, bool dark)
     g_object_set(gtk_settings_get_default(), "gtk-application-prefer-dark-theme", static_cast<gboolean>(dark), nullptr);
     gtk_css_provider_load_from_data(provider, css, -1, nullptr);
 }
-}
+} // namespace workbench::native

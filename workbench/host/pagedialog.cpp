@@ -133,8 +133,7 @@ void PageDialog::runModalRunner()
 HostDialog::HostDialog(PageGroup& pages, const QUrl& page, velm::BaseDialogController* controller, wxWindow* parent,
                        const velm::DialogOptions& options)
     : m_dialog(new PageDialog(pages, page, *controller, parent, options))
-{
-}
+{}
 
 HostDialog::~HostDialog()
 {

@@ -6,8 +6,7 @@
 
 #include <algorithm>
 
-namespace workbench
-{
+namespace workbench {
 PageGroup::PageGroup()
 {
     m_modals.onChanged = [this] { updateBlocking(); };
@@ -74,4 +73,4 @@ QObject* PageGroup::findInTransientPopups(const QString& objectName)
             return object;
     return nullptr;
 }
-}
+} // namespace workbench

@@ -7,8 +7,7 @@
 
 class QQmlEngine;
 
-namespace workbench
-{
+namespace workbench {
 class PagePanel;
 
 /// All pages of the program as one: they share the engine, are reloaded together and are blocked by a modal dialog that
@@ -47,4 +46,4 @@ private:
     bool m_busy = false;
     std::vector<PagePanel*> m_pages; // not owned
 };
-}
+} // namespace workbench

@@ -17,10 +17,8 @@
 
 #include <utility>
 
-namespace workbench
-{
-namespace
-{
+namespace workbench {
+namespace {
 /// The page's root, or null and why.
 std::pair<std::unique_ptr<QQuickItem>, QString> create(QQmlEngine& engine, const QUrl& page,
                                                        const QVariantMap& properties)
@@ -39,7 +37,7 @@ std::pair<std::unique_ptr<QQuickItem>, QString> create(QQmlEngine& engine, const
     qCritical("%s", qUtf8Printable(reason));
     return {nullptr, reason};
 }
-}
+} // namespace
 
 PagePanel::PagePanel(wxWindow* parent, PageGroup& group, const QUrl& page, QObject* controller)
     : wxPanel(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxWANTS_CHARS), m_group(group), m_page(page),
@@ -109,7 +107,8 @@ void PagePanel::detach()
 void PagePanel::fitView()
 {
     if (m_nativeParent)
-        m_view->setGeometry({QPoint(), velm::toQt(GetClientSize()) * GetContentScaleFactor() / m_view->devicePixelRatio()});
+        m_view->setGeometry(
+            {QPoint(), velm::toQt(GetClientSize()) * GetContentScaleFactor() / m_view->devicePixelRatio()});
 }
 
 void PagePanel::reload(int)
@@ -184,7 +183,8 @@ void PagePanel::gotFocus(native::FocusRoad road)
 
 bool PagePanel::leave(bool forward)
 {
-    // The host's toolkit doesn't notice when the keyboard moves within its window: for it the panel has it all the time.
+    // The host's toolkit doesn't notice when the keyboard moves within its window: for it the panel has it all the
+    // time.
     native::moveFocus(*this, forward);
     return !native::isFocusWidget(*this);
 }
@@ -208,4 +208,4 @@ QObject* PagePanel::findInTransientPopups(const QString& objectName)
 {
     return m_view->root() ? m_view->root()->findChild<QObject*>(objectName) : nullptr;
 }
-}
+} // namespace workbench

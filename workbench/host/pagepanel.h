@@ -17,14 +17,13 @@
 class QKeyEvent;
 class QWindow;
 
-namespace workbench
-{
+namespace workbench {
 class PageGroup;
 class PageView;
 
-/// A window of the host with a page of QML in it. The page gets the controller as its property "controller". A page that
-/// can't be loaded is logged, and a readable note stands in its place. The panel's native window may come and go, by the
-/// host or from outside: the page lives on without one.
+/// A window of the host with a page of QML in it. The page gets the controller as its property "controller". A page
+/// that can't be loaded is logged, and a readable note stands in its place. The panel's native window may come and go,
+/// by the host or from outside: the page lives on without one.
 class PagePanel : public wxPanel, public HostPage
 {
 public:
@@ -70,4 +69,4 @@ private:
     std::unique_ptr<native::FocusWidgetWatcher> m_focusWatcher;
     bool m_clicked = false; // while a click in the page gives it the focus
 };
-}
+} // namespace workbench

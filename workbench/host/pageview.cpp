@@ -2,10 +2,8 @@
 
 #include <QQuickItem>
 
-namespace workbench
-{
-namespace
-{
+namespace workbench {
+namespace {
 bool isInput(QEvent::Type type)
 {
     switch (type) {
@@ -33,7 +31,7 @@ bool isInput(QEvent::Type type)
         return false;
     }
 }
-}
+} // namespace
 
 PageView::PageView() = default;
 
@@ -130,4 +128,4 @@ void PageView::resizeEvent(QResizeEvent* event)
     if (m_root)
         m_root->setSize(size());
 }
-}
+} // namespace workbench

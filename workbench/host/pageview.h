@@ -6,8 +6,7 @@
 #include <functional>
 #include <memory>
 
-namespace workbench
-{
+namespace workbench {
 /// The Qt window of one page: it keeps the page's root item at its own size, hands on what the page doesn't take, and
 /// takes no input while it is blocked. It knows nothing of the window around it.
 class PageView : public QQuickWindow
@@ -45,4 +44,4 @@ private:
     std::unique_ptr<QQuickItem> m_root;
     bool m_blocked = false;
 };
-}
+} // namespace workbench

@@ -22,8 +22,7 @@ wxString UnitFormatter::formatAngular(const void*, std::uint16_t flags)
 {
     wxString text = m_formatter.formatAngle(m_value).c_str();
     const OdUnits::AngularKind kind = m_formatter.units().angularKind;
-    const bool endsInUnit =
-        kind == OdUnits::kDecimalDegrees || kind == OdUnits::kGrads || kind == OdUnits::kRadians;
+    const bool endsInUnit = kind == OdUnits::kDecimalDegrees || kind == OdUnits::kGrads || kind == OdUnits::kRadians;
     if ((flags & withoutUnit) && endsInUnit && !text.empty() && !wxIsdigit(text.Last()))
         text.RemoveLast();
     return text;

@@ -4,7 +4,8 @@
 #include "velm/bridge/conversions.h"
 
 namespace workbench {
-LayerModel::LayerModel(QObject* parent) : QAbstractListModel(parent) {}
+LayerModel::LayerModel(QObject* parent) : QAbstractListModel(parent)
+{}
 
 void LayerModel::setDatabase(OdDbDatabase* database)
 {

@@ -25,9 +25,9 @@ public:
     explicit DriverError(const QString& what) : std::runtime_error(what.toStdString()) {}
 };
 
-/// Works the running program with the real mouse and keyboard of its X server, by the tool xdotool, and looks at what it
-/// did. It is used on a thread of its own, so that the program's loops, also modal ones, go on; every look is taken on
-/// the program's thread. Whatever doesn't come in time throws a DriverError that says what was waited for.
+/// Works the running program with the real mouse and keyboard of its X server, by the tool xdotool, and looks at what
+/// it did. It is used on a thread of its own, so that the program's loops, also modal ones, go on; every look is taken
+/// on the program's thread. Whatever doesn't come in time throws a DriverError that says what was waited for.
 class Driver
 {
 public:

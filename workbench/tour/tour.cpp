@@ -21,13 +21,22 @@
 
 namespace workbench {
 namespace {
+constexpr const char* smallDrawing = "0\nSECTION\n2\nTABLES\n0\nTABLE\n2\nLAYER\n70\n3\n"
+                                     "0\nLAYER\n2\n0\n70\n0\n62\n7\n6\nCONTINUOUS\n"
+                                     "0\nLAYER\n2\nOutline\n70\n0\n62\n3\n6\nCONTINUOUS\n"
+                                     "0\nLAYER\n2\nHoles\n70\n0\n62\n1\n6\nCONTINUOUS\n"
+                                     "0\nENDTAB\n0\nENDSEC\n0\nSECTION\n2\nENTITIES\n"
+                                     "0\nCIRCLE\n8\nOutline\n10\n0\n20\n0\n30\n0\n40\n50\n"
+                                     "0\nCIRCLE\n8\nHoles\n10\n0\n20\n0\n30\n0\n40\n20\n"
+                                     "0\nENDSEC\n0\nEOF\n";
+
 /// One walk through the program.
 class Tour
 {
 public:
     Tour(WorkbenchApp& app, const QString& folder) : m_driver(app), m_frame(*app.frame()), m_folder(folder) {}
 
-    int run();
+    int run(bool hasDrawing);
 
 private:
     void check(bool holds, const QString& what);
@@ -53,6 +62,7 @@ private:
     MainFrame& m_frame;
     QString m_folder;
     QTemporaryDir m_scratch;
+    bool m_hasDrawing = false;
     int m_step = 0;
     int m_picture = 0;
 };
@@ -91,7 +101,10 @@ void Tour::showTab(int tab)
 void Tour::openDrawing()
 {
     m_driver.waitForStart();
-    m_driver.waitFor("the drawing's layers in the list", [&] { return m_frame.layers().layers()->rowCount() > 2; }, 30000);
+    if (!m_hasDrawing)
+        m_driver.command("OPEN " + write("small.dxf", smallDrawing));
+    m_driver.waitFor(
+        "the drawing's layers in the list", [&] { return m_frame.layers().layers()->rowCount() > 2; }, 30000);
     m_driver.waitFor("the drawing on the canvas", [&] { return m_frame.canvas().drawnEntityCount() > 0; });
     m_driver.waitFor("the list on the screen", [&] { return m_driver.hasItem("layer:0"); });
 }
@@ -199,20 +212,16 @@ void Tour::closeDrawing()
     m_driver.waitFor("an empty list", [&] { return m_frame.layers().layers()->rowCount() == 0; });
 }
 
-int Tour::run()
+int Tour::run(bool hasDrawing)
 {
     QDir().mkpath(m_folder);
+    m_hasDrawing = hasDrawing;
     const std::pair<const char*, void (Tour::*)()> steps[] = {
-        {"open-drawing", &Tour::openDrawing},
-        {"layers-panel", &Tour::switchLayer},
-        {"drawing-panel", &Tour::showDrawingPanel},
-        {"broken-page", &Tour::showBrokenPage},
-        {"name-refused", &Tour::refuseName},
-        {"name-accepted", &Tour::acceptName},
-        {"dark-theme", &Tour::switchTheme},
-        {"damaged-drawing-refused", &Tour::refuseDrawing},
-        {"engine-rebuilt", &Tour::rebuildEngine},
-        {"drawing-closed", &Tour::closeDrawing},
+        {"open-drawing", &Tour::openDrawing},       {"layers-panel", &Tour::switchLayer},
+        {"drawing-panel", &Tour::showDrawingPanel}, {"broken-page", &Tour::showBrokenPage},
+        {"name-refused", &Tour::refuseName},        {"name-accepted", &Tour::acceptName},
+        {"dark-theme", &Tour::switchTheme},         {"damaged-drawing-refused", &Tour::refuseDrawing},
+        {"engine-rebuilt", &Tour::rebuildEngine},   {"drawing-closed", &Tour::closeDrawing},
     };
     for (const auto& [name, work] : steps) {
         ++m_step;
@@ -231,8 +240,8 @@ int Tour::run()
 }
 } // namespace
 
-int runTour(WorkbenchApp& app, const QString& folder)
+int runTour(WorkbenchApp& app, const QString& folder, bool hasDrawing)
 {
-    return Tour(app, folder).run();
+    return Tour(app, folder).run(hasDrawing);
 }
 } // namespace workbench
