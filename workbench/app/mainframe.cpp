@@ -65,7 +65,8 @@ MainFrame::MainFrame(VelmSession& session, HostServices& services, PageGroup& pa
         m_sideSplitter->SetSashPosition(-FromDIP(sideWidth));
         m_lowerSplitter->SetSashPosition(-FromDIP(lowerHeight));
     });
-    CallAfter(&MainFrame::warnOfConfiguration);
+    if (!ut::Config::isWritable())
+        warnOfConfiguration();
 }
 
 MainFrame::~MainFrame()
@@ -312,13 +313,20 @@ void MainFrame::showState()
 
 void MainFrame::warnOfConfiguration()
 {
-    if (ut::Config::isWritable())
-        return;
     const wxString text =
         wxString::Format(_("The settings can't be stored: %s can't be written. They last until the program ends."),
                          ut::Config::fileName().c_str());
     m_commandLine->log(text);
-    m_services.dialogs().showWarningMessage(_("Settings").wc_str(), text.wc_str(), this, velm::MessageButtonStyle::OK);
+    // A box over a window that isn't active yet would not get the keyboard.
+    Bind(wxEVT_ACTIVATE, [this, text, told = false](wxActivateEvent& event) mutable {
+        event.Skip();
+        if (!event.GetActive() || std::exchange(told, true))
+            return;
+        CallAfter([this, text] {
+            m_services.dialogs().showWarningMessage(_("Settings").wc_str(), text.wc_str(), this,
+                                                    velm::MessageButtonStyle::OK);
+        });
+    });
 }
 
 void MainFrame::restoreGeometry()

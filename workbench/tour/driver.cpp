@@ -53,7 +53,7 @@ void collectTexts(const wxWindow& window, QString& texts)
 
 void Driver::waitForStart()
 {
-    waitFor("the program's window", [this] { return m_app.frame()->IsActive(); });
+    waitFor("the program's window", [this] { return m_app.frame()->IsActive() || (dialog() && dialog()->IsActive()); });
 }
 
 void Driver::invoke(const std::function<void()>& function)

@@ -48,7 +48,7 @@ public:
             return result;
         }
     }
-    /// Waits until the program's window is the active one.
+    /// Waits until the program's window, or a dialog over it, is the active one.
     void waitForStart();
     /// Starts a function on the program's thread without waiting for its end, since it may run a dialog.
     void start(std::function<void()> function);
