@@ -186,11 +186,8 @@ bool Config::deleteEntry(ECfgGroup group, const OdString& key)
 
 bool Config::listGroups(ECfgGroup group, OdArray<OdString>& groups, const OdString& key)
 {
-    QString prefix = textOf(key);
-    if (!prefix.isEmpty() && !prefix.endsWith(u'/'))
-        prefix += u'/';
     groups.clear();
-    for (const QString& name : store().groups(sectionOf(group), prefix))
+    for (const QString& name : store().groups(sectionOf(group), textOf(key)))
         groups.append(name.toStdWString());
     return !groups.isEmpty();
 }

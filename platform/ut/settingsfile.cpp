@@ -1,56 +1,48 @@
 #include "ut/settingsfile.h"
 
+#include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QLockFile>
-#include <QSaveFile>
+#include <QScopeGuard>
 #include <QStringDecoder>
+#include <QTemporaryFile>
 #include <QThread>
+
+#include <algorithm>
+#include <map>
 
 namespace {
 constexpr int lockTimeoutMs = 10000;
 constexpr int lockPollMs = 2;
-/// Two writes within this time may leave the same stamp.
-constexpr qint64 stampResolutionMs = 100;
+/// For the lock of a process that was killed before its name stood in it. Whoever lives keeps his for longer.
+constexpr int staleLockMs = 1000;
+constexpr QChar escapeSign = u'%'; // alone: an empty segment
 
-constexpr QChar escapeSign = u'%';
-constexpr int escapeDigits = 4;
-
-QString escaped(const QString& text, const QString& reserved)
+/// QSettings drops empty segments of a path and takes a backslash for a slash on some systems.
+QString fullKey(const QString& section, const QString& key)
 {
-    QString result;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const QChar c = text[i];
-        const bool trimmedAway = c.isSpace() && (i == 0 || i == text.size() - 1);
-        if (c < u' ' || c == u'\x7f' || c.isSurrogate() || c == escapeSign || trimmedAway || reserved.contains(c))
-            result += escapeSign + QString::number(c.unicode(), 16).rightJustified(escapeDigits, u'0');
-        else
-            result += c;
-    }
-    return result;
+    QStringList segments =
+        QString(key).replace(escapeSign, QStringLiteral("%25")).replace(u'\\', QStringLiteral("%5C")).split(u'/');
+    std::replace(segments.begin(), segments.end(), QString(), QString(escapeSign));
+    return section + u'/' + segments.join(u'/');
 }
 
-QString unescaped(QStringView text)
+QString segmentName(const QString& segment)
 {
-    QString result;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        bool ok = false;
-        ushort code = 0;
-        if (text[i] == escapeSign && i + escapeDigits < text.size())
-            code = text.mid(i + 1, escapeDigits).toUShort(&ok, 16);
-        result += ok ? QChar(code) : text[i];
-        if (ok)
-            i += escapeDigits;
-    }
-    return result;
+    if (segment == escapeSign)
+        return QString();
+    return QString(segment)
+        .replace(QStringLiteral("%5C"), QStringLiteral("\\"))
+        .replace(QStringLiteral("%25"), QStringLiteral("%"));
 }
 
 bool lockSoon(QLockFile& lock)
 {
     // QLockFile's own waiting doubles its pauses up to seconds, which starves one of two busy writers.
     const QDeadlineTimer deadline(lockTimeoutMs);
+    lock.setStaleLockTime(staleLockMs);
     while (!lock.tryLock(0)) {
         if (lock.error() != QLockFile::LockFailedError || deadline.hasExpired())
             return false;
@@ -65,140 +57,118 @@ bool isControl(QChar c)
 }
 } // namespace
 
-SettingsFile::SettingsFile(const QString& path) : m_path(path)
+SettingsFile::SettingsFile(const QString& path)
+    : m_path(path), m_lock(path + QStringLiteral(".guard")) // QSettings takes ".lock" for itself, in each sync
 {}
 
-bool SettingsFile::isWritable() const
+bool SettingsFile::isWritable()
 {
-    const QFileInfo file(m_path);
-    if (file.isFile() && !file.isWritable())
-        return false;
-    QFileInfo folder(file.absolutePath());
-    while (!folder.exists() && !folder.isRoot())
-        folder.setFile(folder.absolutePath());
-    return folder.isDir() && folder.isWritable();
+    refresh();
+    return m_settings->isWritable() && QFileInfo(QFileInfo(m_path).absolutePath()).isWritable();
 }
 
 std::optional<QString> SettingsFile::value(const QString& section, const QString& key)
 {
     refresh();
-    const auto entry = m_entries.find({section, key});
-    return entry == m_entries.end() ? std::nullopt : std::optional(entry->second);
+    const QVariant value = m_settings->value(fullKey(section, key));
+    // What a person typed with commas and without quotes is a list to QSettings.
+    return value.canConvert<QStringList>() ? std::optional(value.toStringList().join(u',')) : std::nullopt;
 }
 
-std::set<QString> SettingsFile::groups(const QString& section, const QString& prefix)
+QStringList SettingsFile::groups(const QString& section, QString key)
 {
     refresh();
-    std::set<QString> result;
-    for (auto entry = m_entries.lower_bound({section, prefix}); entry != m_entries.end(); ++entry) {
-        const auto& [entrySection, key] = entry->first;
-        if (entrySection != section || !key.startsWith(prefix))
-            break;
-        const qsizetype slash = key.indexOf(u'/', prefix.size());
-        if (slash >= 0)
-            result.insert(key.mid(prefix.size(), slash - prefix.size()));
+    QString parent = section;
+    if (!key.isEmpty()) {
+        if (key.endsWith(u'/'))
+            key.chop(1);
+        parent = fullKey(section, key);
     }
-    return result;
+    m_settings->beginGroup(parent);
+    QStringList names = m_settings->childGroups();
+    m_settings->endGroup();
+    std::transform(names.begin(), names.end(), names.begin(), segmentName);
+    names.sort();
+    return names;
 }
 
 bool SettingsFile::set(const QString& section, const QString& key, const std::optional<QString>& value)
 {
-    if (m_unsaved.empty() && this->value(section, key) == value)
+    if (m_allSaved && this->value(section, key) == value)
         return true;
-    m_unsaved[{section, key}] = value;
-    if (save()) {
-        m_unsaved.clear();
-        m_stamp.reset();
-        return true;
-    }
-    applyUnsaved();
+    QDir().mkpath(QFileInfo(m_path).absolutePath());
+    const bool isLocked = lock();
+    const auto unlock = qScopeGuard([this] { m_lock.unlock(); });
+    if (!m_allSaved || m_stamp != currentStamp())
+        load();
+
+    if (value)
+        m_settings->setValue(fullKey(section, key), *value);
+    else
+        removeOnly(fullKey(section, key));
+    // QSettings must not save on its own, from the event loop: without the lock, and maybe over a damaged file.
+    QCoreApplication::removePostedEvents(m_settings.get(), QEvent::UpdateRequest);
+    m_allSaved = isLocked && m_stamp && save();
+
     static bool warned = false;
-    if (!std::exchange(warned, true))
+    if (!m_allSaved && !std::exchange(warned, true))
         qWarning("The settings in \"%s\" can't be written; changes last until the program ends.",
                  qUtf8Printable(m_path));
-    return false;
-}
-
-std::optional<SettingsFile::Entries> SettingsFile::parse(const QByteArray& bytes)
-{
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    const QString text = decoder.decode(bytes);
-    if (decoder.hasError() || std::any_of(text.begin(), text.end(), isControl))
-        return std::nullopt;
-    Entries entries;
-    QString section;
-    for (QStringView line : QStringView(text).split(u'\n')) {
-        line = line.trimmed();
-        if (line.isEmpty() || line.startsWith(u';') || line.startsWith(u'#'))
-            continue;
-        if (line.startsWith(u'[')) {
-            if (!line.endsWith(u']'))
-                return std::nullopt;
-            section = line.mid(1, line.size() - 2).toString();
-            continue;
-        }
-        const qsizetype equals = line.indexOf(u'=');
-        if (equals < 0)
-            return std::nullopt;
-        entries[{section, unescaped(line.left(equals).trimmed())}] = unescaped(line.mid(equals + 1).trimmed());
-    }
-    return entries;
-}
-
-QByteArray SettingsFile::serialize(const Entries& entries)
-{
-    QString text;
-    QString section;
-    for (const auto& [address, value] : entries) {
-        if (address.first != section) {
-            section = address.first;
-            text += (text.isEmpty() ? QString() : QStringLiteral("\n")) + u'[' + section + QStringLiteral("]\n");
-        }
-        text += escaped(address.second, QStringLiteral("=[];#")) + u'=' + escaped(value, QString()) + u'\n';
-    }
-    return text.toUtf8();
+    return m_allSaved;
 }
 
 void SettingsFile::refresh()
 {
-    if (m_stamp == currentStamp() || load() != Content::Damaged)
+    if (m_settings && m_stamp == currentStamp())
         return;
-    QLockFile lock(m_path + QStringLiteral(".lock"));
-    if (lockSoon(lock))
-        loadOrSetAside();
+    // Without the lock, as in a folder that can't be written, the file is read all the same.
+    lock();
+    const auto unlock = qScopeGuard([this] { m_lock.unlock(); });
+    load();
 }
 
-SettingsFile::Content SettingsFile::load()
+bool SettingsFile::lock()
 {
-    m_entries.clear();
-    const auto stamp = currentStamp();
-    const QDateTime now = QDateTime::currentDateTimeUtc();
-    const bool stampIsUnique = !stamp.second.isValid() || stamp.second.msecsTo(now) > stampResolutionMs;
-    m_stamp = stampIsUnique ? std::optional(stamp) : std::nullopt;
+    if (!lockSoon(m_lock))
+        return false;
+    // QSettings waits half a minute for the lock in which a killed process left no name: clear it away before.
+    QLockFile ofSettings(m_path + QStringLiteral(".lock"));
+    if (QFile::exists(ofSettings.fileName()))
+        lockSoon(ofSettings);
+    return true;
+}
 
-    Content content = Content::Good;
-    const QFileInfo info(m_path);
-    if (info.isDir()) {
-        content = Content::Damaged;
-    } else if (info.exists()) {
-        QFile file(m_path);
-        std::optional<Entries> read;
-        if (!file.open(QIODevice::ReadOnly))
-            content = Content::Unreadable;
-        else if (!(read = parse(file.readAll())))
-            content = Content::Damaged;
-        else
-            m_entries = std::move(*read);
+void SettingsFile::load()
+{
+    const Stamp stamp = currentStamp();
+    const bool isGood = !isDamaged() || (m_lock.isLocked() && setAside());
+    if (isGood || !m_settings) {
+        // Opening it syncs it. A QSettings never forgets an error, so a new one takes over; both share what is pending.
+        auto settings = std::make_unique<QSettings>(m_path, QSettings::IniFormat);
+        m_settings = std::move(settings);
     }
-    applyUnsaved();
-    return content;
+    m_stamp = isGood ? std::optional(stamp) : std::nullopt;
 }
 
-SettingsFile::Content SettingsFile::loadOrSetAside()
+bool SettingsFile::isDamaged() const
 {
-    // Another process may have mended the file before the lock was ours.
-    const Content content = load();
-    return content == Content::Damaged && setAside() ? load() : content;
+    if (QFileInfo(m_path).isDir())
+        return true;
+    QFile file(m_path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray bytes = file.readAll();
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    const QString text = decoder.decode(bytes);
+    if (decoder.hasError() || std::any_of(text.begin(), text.end(), isControl))
+        return true;
+    // QSettings judges a copy, because it would write what is pending over the file itself as soon as it opens it.
+    QTemporaryFile copy;
+    if (!copy.open() || copy.write(bytes) != bytes.size() || !copy.flush())
+        return false;
+    const QSettings judge(copy.fileName(), QSettings::IniFormat);
+    judge.allKeys(); // parses all sections
+    return judge.status() == QSettings::FormatError;
 }
 
 bool SettingsFile::setAside() const
@@ -216,28 +186,33 @@ bool SettingsFile::setAside() const
     return true;
 }
 
-void SettingsFile::applyUnsaved()
+void SettingsFile::removeOnly(const QString& fullKey)
 {
-    for (const auto& [address, value] : m_unsaved) {
-        if (value)
-            m_entries[address] = *value;
-        else
-            m_entries.erase(address);
-    }
+    // QSettings removes the group of that name along.
+    std::map<QString, QVariant> below;
+    for (const QString& key : m_settings->allKeys())
+        if (key.startsWith(fullKey + u'/'))
+            below[key] = m_settings->value(key);
+    m_settings->remove(fullKey);
+    for (const auto& [key, value] : below)
+        m_settings->setValue(key, value);
 }
 
 bool SettingsFile::save()
 {
-    QDir().mkpath(QFileInfo(m_path).absolutePath());
-    QLockFile lock(m_path + QStringLiteral(".lock"));
-    if (!lockSoon(lock) || loadOrSetAside() != Content::Good)
-        return false;
-    const QByteArray bytes = serialize(m_entries);
-    QSaveFile file(m_path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+    const QDateTime before = QFileInfo(m_path).lastModified();
+    m_settings->sync();
+    const bool ok = m_settings->status() == QSettings::NoError;
+    // By size and time QSettings, too, tells whether another process wrote: no two writes may leave the same time.
+    QFile file(m_path);
+    if (ok && before.isValid() && QFileInfo(m_path).lastModified() <= before &&
+        file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
+        file.setFileTime(before.addMSecs(1), QFileDevice::FileModificationTime);
+    m_stamp = currentStamp();
+    return ok;
 }
 
-std::pair<qint64, QDateTime> SettingsFile::currentStamp() const
+SettingsFile::Stamp SettingsFile::currentStamp() const
 {
     const QFileInfo info(m_path);
     return {info.exists() ? info.size() : -1, info.lastModified()};
