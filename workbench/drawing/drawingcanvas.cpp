@@ -34,6 +34,11 @@ DrawingCanvas::DrawingCanvas(wxWindow* parent)
     Bind(wxEVT_MOUSE_CAPTURE_LOST, [this](wxMouseCaptureLostEvent&) { m_isPanning = false; });
 }
 
+DrawingCanvas::~DrawingCanvas()
+{
+    endPan();
+}
+
 void DrawingCanvas::setDatabase(OdDbDatabase* database)
 {
     m_database = database;

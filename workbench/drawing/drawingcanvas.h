@@ -15,6 +15,7 @@ class DrawingCanvas : public wxPanel
 {
 public:
     explicit DrawingCanvas(wxWindow* parent);
+    ~DrawingCanvas() override;
 
     /// Shows a drawing, all of it. It is not owned and may be null.
     void setDatabase(OdDbDatabase* database);

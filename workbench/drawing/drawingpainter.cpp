@@ -11,8 +11,9 @@ namespace workbench {
 
 namespace {
 
-constexpr double margin = 16.0;         // pixels around the canvas within which lines are kept
-constexpr int longestPath = 300;        // segments; the cost of a stroke grows faster than its length
+constexpr double margin = 16.0;  // pixels around the canvas within which lines are kept
+constexpr int longestPath = 300; // segments; the cost of a stroke grows faster than its length
+constexpr int mostSmoothPieces = 5000;
 constexpr double shortestPattern = 6.0; // pixels
 constexpr double smallestText = 2.0;    // pixels
 constexpr double largestText = 4000.0;
@@ -136,6 +137,10 @@ wxColour DrawingPainter::visibleColour(const OdCmColor& color, const wxColour& b
 std::size_t DrawingPainter::paint(const Tessellation& tessellation)
 {
     const Box visible = m_view.visible();
+    // Smooth lines cost more than ten times the time of plain ones.
+    if (std::ranges::count_if(tessellation.pieces, [&](const Piece& piece) { return piece.box.intersects(visible); }) >
+        mostSmoothPieces)
+        m_context.SetAntialiasMode(wxANTIALIAS_NONE);
     std::size_t drawn = 0;
     std::uint32_t lastEntity = static_cast<std::uint32_t>(-1);
     for (const Piece& piece : tessellation.pieces) {
