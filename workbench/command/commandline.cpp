@@ -10,6 +10,7 @@ CommandLine::CommandLine(wxWindow* parent) : wxPanel(parent)
     m_log = new wxTextCtrl(this, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
                            wxTE_MULTILINE | wxTE_READONLY | wxBORDER_NONE);
     m_input = new wxTextCtrl(this, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize, wxTE_PROCESS_ENTER);
+    m_log->SetMargins(FromDIP(8), FromDIP(4));
     m_input->SetHint("Type a command");
     auto* sizer = new wxBoxSizer(wxVERTICAL);
     sizer->Add(m_log, 1, wxEXPAND);
@@ -75,6 +76,8 @@ void CommandLine::setColours(const wxColour& text, const wxColour& background, c
         control->SetBackgroundColour(control == m_log ? background : inputBackground);
         control->Refresh();
     }
+    // What is in the log already keeps the colours that it was written with.
+    m_log->SetStyle(0, m_log->GetLastPosition(), wxTextAttr(text, background));
     Refresh();
 }
 

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "app/mainframe.h"
+#include "app/workbenchapp.h"
+#include "command/commandline.h"
+#include "drawing/drawingcanvas.h"
+#include "host/pagegroup.h"
+#include "host/pagepanel.h"
+#include "host/pageview.h"
+#include "tour/driver.h"
+#include "velm/bridge/conversions.h"
+
+#include <QFileInfo>
+#include <QQuickItem>
+#include <QTemporaryDir>
+#include <QtTest>
+
+/// Runs the tests of a class against the running program: they work it from a thread of their own, by a real mouse and
+/// keyboard, while it serves its events. The class is made from the driver.
+template <typename Test>
+int runInWorkbench(int argc, char** argv)
+{
+    return workbench::run(1, argv, [argc, argv](workbench::WorkbenchApp& app) {
+        workbench::Driver driver(app);
+        try {
+            driver.waitForStart();
+            Test test(driver);
+            return QTest::qExec(&test, argc, argv);
+        } catch (const workbench::DriverError& error) {
+            // Qt Test has counted the failure, but nothing of what was waited for.
+            const QString picture = QFileInfo(argv[0]).fileName() + ".failure.png";
+            driver.savePicture(picture);
+            qCritical("%s\nThe screen then: %s", error.what(), qPrintable(QFileInfo(picture).absoluteFilePath()));
+            return 1;
+        }
+    });
+}
+
+/// A drawing with the layers "0", "Alpha" and "Beta" and a line on each of the latter.
+inline QByteArray smallDrawing()
+{
+    return "0\nSECTION\n2\nTABLES\n0\nTABLE\n2\nLAYER\n70\n3\n"
+           "0\nLAYER\n2\n0\n70\n0\n62\n7\n6\nCONTINUOUS\n"
+           "0\nLAYER\n2\nAlpha\n70\n0\n62\n1\n6\nCONTINUOUS\n"
+           "0\nLAYER\n2\nBeta\n70\n0\n62\n3\n6\nCONTINUOUS\n"
+           "0\nENDTAB\n0\nENDSEC\n0\nSECTION\n2\nENTITIES\n"
+           "0\nLINE\n8\nAlpha\n10\n0\n20\n0\n30\n0\n11\n10\n21\n5\n31\n0\n"
+           "0\nLINE\n8\nBeta\n10\n0\n20\n5\n30\n0\n11\n10\n21\n0\n31\n0\n"
+           "0\nENDSEC\n0\nEOF\n";
+}

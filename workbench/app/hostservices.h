@@ -1,0 +1,38 @@
+#pragma once
+
+#include "host/dialogfactory.h"
+#include "host/guicontroller.h"
+#include "host/unitformatter.h"
+#include "od/odapdocmanager.h"
+#include "velm/bridge/externalfunctions.h"
+
+namespace workbench {
+class CommandLine;
+class PageGroup;
+
+/// What the host lends to velm: its services, and the callbacks by which velm finds them.
+class HostServices
+{
+public:
+    explicit HostServices(PageGroup& pages);
+    HostServices(const HostServices&) = delete;
+    HostServices& operator=(const HostServices&) = delete;
+
+    OdApDocManager& documents() { return m_documents; }
+    DialogFactory& dialogs() { return m_dialogs; }
+    /// Where commands of pages go; not owned; null takes none.
+    void setCommandLine(CommandLine* commandLine) { m_commandLine = commandLine; }
+
+    /// All callbacks. They must not outlive this object.
+    velm::ExternalFunctions functions();
+
+private:
+    velm::IUnitFormatter* formatterFor(double value);
+
+    OdApDocManager m_documents;
+    GuiController m_gui;
+    DialogFactory m_dialogs;
+    UnitFormatter m_formatter;
+    CommandLine* m_commandLine = nullptr; // not owned
+};
+} // namespace workbench

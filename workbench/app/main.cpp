@@ -1,0 +1,6 @@
+#include "app/workbenchapp.h"
+
+int main(int argc, char** argv)
+{
+    return workbench::run(argc, argv);
+}

@@ -1,0 +1,369 @@
+#include "app/mainframe.h"
+
+#include "app/actions.h"
+#include "app/hostservices.h"
+#include "app/velmsession.h"
+#include "command/commandline.h"
+#include "drawing/drawingcanvas.h"
+#include "host/pagedialog.h"
+#include "host/pagegroup.h"
+#include "host/pagepanel.h"
+#include "host/themecolours.h"
+#include "od/oddbdatabase.h"
+#include "ut/config.h"
+#include "velm/bridge/conversions.h"
+#include "velm/units/settings.h"
+
+#include <wx/display.h>
+#include <wx/filedlg.h>
+#include <wx/filename.h>
+#include <wx/notebook.h>
+#include <wx/splitter.h>
+#include <wx/textctrl.h>
+
+#include <QDir>
+
+namespace workbench {
+namespace {
+constexpr int sideWidth = 300;
+constexpr int lowerHeight = 130;
+const OdString rectKey = L"MainWindow/Rectangle";
+const OdString maximizedKey = L"MainWindow/Maximized";
+} // namespace
+
+MainFrame::MainFrame(VelmSession& session, HostServices& services, PageGroup& pages)
+    : wxFrame(nullptr, wxID_ANY, "velm workbench", wxDefaultPosition, wxSize(1100, 720)), m_session(session),
+      m_services(services), m_pages(pages), m_documents(services.documents(), services.dialogs(), pages),
+      m_layers(services.documents(), services.dialogs()), m_drawingInfo(services.documents())
+{
+    build();
+    addCommands();
+    m_services.setCommandLine(m_commandLine);
+    m_services.documents().addReactor(this);
+    m_documents.log = [this](const wxString& line) { m_commandLine->log(line); };
+    m_layers.onLayersChanged = [this] { m_canvas->refreshDrawing(); };
+    m_session.onThemeChanged = [this] { applyColours(); };
+    m_session.onRebuilt = [this] {
+        pushUnits();
+        applyColours();
+    };
+    Bind(wxEVT_CLOSE_WINDOW, &MainFrame::onClose, this);
+    // Escape reaches the command line from wherever the keyboard is, also from a page that has no use for it.
+    Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) {
+        if (event.GetKeyCode() == WXK_ESCAPE && event.GetModifiers() == wxMOD_NONE) {
+            m_commandLine->processEscape();
+            m_commandLine->input()->SetFocus();
+        } else {
+            event.Skip();
+        }
+    });
+    restoreGeometry();
+    applyColours();
+    documentBecameCurrent(nullptr);
+    // The parts get their places once the window has its size.
+    CallAfter([this] {
+        m_sideSplitter->SetSashPosition(-FromDIP(sideWidth));
+        m_lowerSplitter->SetSashPosition(-FromDIP(lowerHeight));
+    });
+    if (!ut::Config::isWritable())
+        warnOfConfiguration();
+}
+
+MainFrame::~MainFrame()
+{
+    m_services.documents().removeReactor(this);
+    m_services.setCommandLine(nullptr);
+    m_session.onThemeChanged = nullptr;
+    m_session.onRebuilt = nullptr;
+    m_canvas->setDatabase(nullptr);
+    // The pages go before the controllers that they show, which are members.
+    DestroyChildren();
+}
+
+void MainFrame::build()
+{
+    m_sideSplitter =
+        new wxSplitterWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxSP_LIVE_UPDATE | wxSP_NOBORDER);
+    m_lowerSplitter = new wxSplitterWindow(m_sideSplitter, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+                                           wxSP_LIVE_UPDATE | wxSP_NOBORDER);
+    m_canvas = new DrawingCanvas(m_lowerSplitter);
+    m_canvas->background = [] { return wxGuiColour(ut::EGuiColor::Grey0); };
+    m_canvas->onCursorMoved = [this](const OdGePoint3d& point) { showCursor(point); };
+    m_commandLine = new CommandLine(m_lowerSplitter);
+    m_panels = new wxNotebook(m_sideSplitter, wxID_ANY);
+    addPanel("Workbench/LayersPanel.qml", &m_layers, _("Layers"));
+    addPanel("Workbench/DrawingPanel.qml", &m_drawingInfo, _("Drawing"));
+
+    m_lowerSplitter->SetMinimumPaneSize(FromDIP(90));
+    m_lowerSplitter->SetSashGravity(1.0);
+    m_sideSplitter->SetMinimumPaneSize(FromDIP(200));
+    m_sideSplitter->SetSashGravity(1.0);
+    m_sideSplitter->SplitVertically(m_lowerSplitter, m_panels);
+    m_lowerSplitter->SplitHorizontally(m_canvas, m_commandLine);
+
+    addMenus(*this, actions());
+    for (PagePanel* page : m_pages.pages())
+        page->setAcceleratorTable(shortcuts(*GetMenuBar()));
+    CreateStatusBar(3, wxSTB_DEFAULT_STYLE & ~wxSTB_SIZEGRIP);
+    const int widths[] = {-1, FromDIP(130), FromDIP(90)};
+    SetStatusWidths(3, widths);
+}
+
+PagePanel* MainFrame::addPanel(const QString& page, QObject* controller, const wxString& title)
+{
+    const QUrl url = QDir::isAbsolutePath(page) ? QUrl::fromLocalFile(page) : velm::getUIFullUrl(page);
+    auto* panel = new PagePanel(m_panels, m_pages, url, controller);
+    if (GetMenuBar())
+        panel->setAcceleratorTable(shortcuts(*GetMenuBar()));
+    m_panels->AddPage(panel, title);
+    return panel;
+}
+
+PagePanel* MainFrame::panel(int tab) const
+{
+    return dynamic_cast<PagePanel*>(m_panels->GetPage(static_cast<size_t>(tab)));
+}
+
+std::vector<Action> MainFrame::actions()
+{
+    const auto hasDrawing = [this] { return m_documents.current() != nullptr; };
+    const auto theme = [this](ut::EGuiColorTheme wanted, const wxString& label) {
+        return Action{_("&View"),
+                      label,
+                      {},
+                      _("Change the colours of the whole program"),
+                      [this, wanted] { setTheme(wanted, false); },
+                      [this, wanted] { return m_session.theme() == wanted; },
+                      {}};
+    };
+    return {
+        {_("&File"), _("&Open..."), "Ctrl+O", _("Open a drawing"), [this] { askForDrawing(); }, {}, {}},
+        {_("&File"), _("&Close"), "Ctrl+W", _("Close the drawing"), [this] { m_documents.close(); }, {}, hasDrawing},
+        {_("&File"), {}, {}, {}, {}, {}, {}},
+        {_("&File"), _("E&xit"), "Ctrl+Q", _("End the program"), [this] { Close(); }, {}, {}},
+        {_("&View"),
+         _("Zoom &extents"),
+         "Ctrl+0",
+         _("Show the whole drawing"),
+         [this] { m_canvas->zoomExtents(); },
+         {},
+         hasDrawing},
+        {_("&View"), {}, {}, {}, {}, {}, {}},
+        theme(ut::EGuiColorTheme::Dark, _("&Dark theme")),
+        theme(ut::EGuiColorTheme::Light, _("&Light theme")),
+        {_("&View"), {}, {}, {}, {}, {}, {}},
+        {_("&View"),
+         _("&Rebuild engine"),
+         "Ctrl+R",
+         _("Load all pages into a new engine"),
+         [this] { m_commandLine->processCommand("REBUILD"); },
+         {},
+         {}},
+        {_("&Layer"),
+         _("&Rename..."),
+         "F2",
+         _("Give the current layer another name"),
+         [this] { m_layers.renameCurrent(); },
+         {},
+         [this] { return m_layers.canRename(); }},
+        {_("&Help"),
+         _("&About"),
+         {},
+         _("What this program is"),
+         [this] {
+             m_services.dialogs().showInfoMessage(
+                 _("About").wc_str(),
+                 _("velm workbench\n\nA small host that shows velm: Qt Quick panels and dialogs "
+                   "inside a wxWidgets drawing application.")
+                     .wc_str(),
+                 nullptr, velm::MessageButtonStyle::OK);
+         },
+         {},
+         {}},
+    };
+}
+
+void MainFrame::addCommands()
+{
+    m_commands.add("OPEN", _("Opens a drawing: OPEN file"), [this](const wxString& file) {
+        if (file.empty())
+            askForDrawing();
+        else
+            openDrawing(file);
+    });
+    m_commands.add("CLOSE", _("Closes the drawing"), [this](const wxString&) { m_documents.close(); });
+    m_commands.add("ZOOM", _("Shows the whole drawing"), [this](const wxString&) { m_canvas->zoomExtents(); });
+    m_commands.add("THEME", _("Changes the colours: THEME DARK or THEME LIGHT"), [this](const wxString& name) {
+        if (name.IsSameAs("DARK", false))
+            setTheme(ut::EGuiColorTheme::Dark, true);
+        else if (name.IsSameAs("LIGHT", false))
+            setTheme(ut::EGuiColorTheme::Light, true);
+        else
+            m_commandLine->log(m_commands.help("THEME"));
+    });
+    m_commands.add("RENAME", _("Gives the current layer another name"),
+                   [this](const wxString&) { m_layers.renameCurrent(); });
+    m_commands.add("REBUILD", _("Loads all pages into a new engine"), [this](const wxString&) {
+        m_session.rebuildEngine();
+        m_commandLine->log(_("The pages run in a new engine."));
+    });
+    m_commands.add("PAGE", _("Shows a page of QML in a tab: PAGE file, or PAGE alone to close it"),
+                   [this](const wxString& file) { tryPage(file); });
+    m_commands.add("QUIT", _("Ends the program"), [this](const wxString&) { Close(); });
+    m_commands.add("HELP", _("Lists the commands"), [this](const wxString&) {
+        for (const wxString& name : m_commands.names())
+            m_commandLine->log(wxString::Format("%-9s %s", name, m_commands.help(name)));
+    });
+    m_commandLine->onCommand = [this](const wxString& line) {
+        if (!m_commands.run(line))
+            m_commandLine->log(wxString::Format(_("Unknown command: %s. HELP lists the commands."), line));
+    };
+}
+
+void MainFrame::tryPage(const wxString& file)
+{
+    if (m_triedPage) {
+        m_panels->DeletePage(static_cast<size_t>(m_panels->FindPage(m_triedPage)));
+        m_triedPage = nullptr;
+    }
+    if (file.empty())
+        return;
+    wxFileName name(file);
+    name.MakeAbsolute();
+    m_triedPage = addPanel(velm::toQt(name.GetFullPath()), nullptr, name.GetFullName());
+    m_panels->SetSelection(m_panels->GetPageCount() - 1);
+    if (!m_triedPage->error().isEmpty())
+        m_commandLine->log(velm::wxFromQt(m_triedPage->error()));
+}
+
+void MainFrame::openDrawing(const wxString& file)
+{
+    m_documents.open(file);
+}
+
+void MainFrame::askForDrawing()
+{
+    wxFileDialog dialog(this, _("Open Drawing"), {}, {}, _("Drawings (*.dxf)|*.dxf;*.DXF|All files|*"),
+                        wxFD_OPEN | wxFD_FILE_MUST_EXIST);
+    if (dialog.ShowModal() == wxID_OK)
+        openDrawing(dialog.GetPath());
+}
+
+void MainFrame::setTheme(ut::EGuiColorTheme theme, bool byManager)
+{
+    if (byManager)
+        m_session.setThemeByManager(theme);
+    else
+        m_session.setTheme(theme);
+}
+
+void MainFrame::documentBecameCurrent(OdApDocument* document)
+{
+    m_canvas->setDatabase(document ? document->database() : nullptr);
+    pushUnits();
+    SetTitle(document ? wxFileName(document->fileName().c_str()).GetFullName() + " - velm workbench"
+                      : wxString("velm workbench"));
+    SetStatusText({}, 0);
+    showState();
+}
+
+void MainFrame::pushUnits()
+{
+    velm::Settings* settings = velm::Settings::instance();
+    OdApDocument* document = m_documents.current();
+    const OdUnits units = document ? document->database()->formatter().units() : OdUnits();
+    settings->setDoc(document);
+    settings->setLinearUnitPrecision(units.linearPrecision);
+    settings->setAngularUnitPrecision(units.angularPrecision);
+    settings->setAngularUnitType(units.angularKind);
+}
+
+void MainFrame::applyColours()
+{
+    m_commandLine->setColours(wxGuiColour(ut::EGuiColor::Grey10), wxGuiColour(ut::EGuiColor::PanelBackground),
+                              wxGuiColour(ut::EGuiColor::InputBackground));
+    m_canvas->Refresh();
+    m_layers.setDarkBackground(m_session.theme() == ut::EGuiColorTheme::Dark);
+    wxStatusBar* bar = GetStatusBar();
+    bar->SetBackgroundColour(wxGuiColour(ut::EGuiColor::PanelsetIconStripBase));
+    bar->SetForegroundColour(wxGuiColour(ut::EGuiColor::Grey8));
+    SetBackgroundColour(wxGuiColour(ut::EGuiColor::PanelBackground));
+    showState();
+    Refresh();
+}
+
+void MainFrame::showCursor(const OdGePoint3d& point)
+{
+    OdApDocument* document = m_documents.current();
+    if (!document)
+        return;
+    const OdUnitsFormatter& formatter = document->database()->formatter();
+    SetStatusText(
+        wxString::Format("%s,  %s", formatter.formatLinear(point.x).c_str(), formatter.formatLinear(point.y).c_str()),
+        0);
+}
+
+void MainFrame::showState()
+{
+    SetStatusText(m_documents.current() ? wxString::Format(_("%d entities"), m_drawingInfo.entityCount())
+                                        : wxString(_("No drawing")),
+                  1);
+    SetStatusText(m_session.theme() == ut::EGuiColorTheme::Dark ? _("Dark") : _("Light"), 2);
+}
+
+void MainFrame::warnOfConfiguration()
+{
+    const wxString text =
+        wxString::Format(_("The settings can't be stored: %s can't be written. They last until the program ends."),
+                         ut::Config::fileName().c_str());
+    m_commandLine->log(text);
+    // A box over a window that isn't active yet would not get the keyboard.
+    Bind(wxEVT_ACTIVATE, [this, text, told = false](wxActivateEvent& event) mutable {
+        event.Skip();
+        if (!event.GetActive() || std::exchange(told, true))
+            return;
+        CallAfter([this, text] {
+            m_services.dialogs().showWarningMessage(_("Settings").wc_str(), text.wc_str(), this,
+                                                    velm::MessageButtonStyle::OK);
+        });
+    });
+}
+
+void MainFrame::restoreGeometry()
+{
+    wxRect rect;
+    // A screen that the window stood on may be gone.
+    if (ut::Config::read(ut::ECfgGroup::Interface, rectKey, rect) && wxDisplay::GetFromPoint(rect.GetPosition()) >= 0)
+        SetSize(rect);
+    else
+        Centre();
+    bool maximized = false;
+    if (ut::Config::read(ut::ECfgGroup::Interface, maximizedKey, maximized) && maximized)
+        Maximize();
+}
+
+void MainFrame::storeGeometry()
+{
+    ut::Config::writeBool(ut::ECfgGroup::Interface, maximizedKey, IsMaximized());
+    if (!IsMaximized() && !IsIconized())
+        ut::Config::writeRect(ut::ECfgGroup::Interface, rectKey, GetRect());
+}
+
+void MainFrame::onClose(wxCloseEvent& event)
+{
+    // A modal dialog that still runs is ended first, and whoever waits for it goes on, before its world goes.
+    if (wxDialog* dialog = m_pages.modals().top()) {
+        if (auto* page = dynamic_cast<PageDialog*>(dialog))
+            page->abandon();
+        else
+            dialog->EndModal(wxID_CANCEL);
+        CallAfter([this] { Close(true); });
+        if (event.CanVeto())
+            event.Veto();
+        return;
+    }
+    storeGeometry();
+    Hide();
+    Destroy();
+}
+} // namespace workbench

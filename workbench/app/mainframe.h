@@ -1,0 +1,80 @@
+#pragma once
+
+#include "app/documents.h"
+#include "command/commands.h"
+#include "od/odge.h"
+#include "panels/drawinginfo.h"
+#include "panels/layerscontroller.h"
+#include "ut/themecolors.h"
+
+#include <wx/frame.h>
+
+#include <memory>
+#include <vector>
+
+class QObject;
+class wxNotebook;
+class wxSplitterWindow;
+
+namespace workbench {
+class CommandLine;
+class DrawingCanvas;
+class HostServices;
+class PageGroup;
+class PagePanel;
+class VelmSession;
+struct Action;
+
+/// The program's window: menu, drawing, command line, and panels with pages at its side.
+class MainFrame : public wxFrame, private OdApDocManagerReactor
+{
+public:
+    /// All outlive the frame.
+    MainFrame(VelmSession& session, HostServices& services, PageGroup& pages);
+    ~MainFrame() override;
+
+    void openDrawing(const wxString& file);
+
+    DrawingCanvas& canvas() { return *m_canvas; }
+    CommandLine& commandLine() { return *m_commandLine; }
+    LayersController& layers() { return m_layers; }
+    wxNotebook& panels() { return *m_panels; }
+    /// The page of a tab.
+    PagePanel* panel(int tab) const;
+
+private:
+    void build();
+    std::vector<Action> actions();
+    void addCommands();
+    PagePanel* addPanel(const QString& page, QObject* controller, const wxString& title);
+    /// Shows any page in the last tab, for whoever writes one; an empty name takes that tab away.
+    void tryPage(const wxString& file);
+    void askForDrawing();
+    void setTheme(ut::EGuiColorTheme theme, bool byManager);
+    void pushUnits();
+    void applyColours();
+    void showCursor(const OdGePoint3d& point);
+    void showState();
+    void warnOfConfiguration();
+    void restoreGeometry();
+    void storeGeometry();
+    void onClose(wxCloseEvent& event);
+
+    void documentBecameCurrent(OdApDocument* document) override;
+
+    VelmSession& m_session;
+    HostServices& m_services;
+    PageGroup& m_pages;
+    Documents m_documents;
+    LayersController m_layers;
+    DrawingInfo m_drawingInfo;
+    Commands m_commands;
+    // All owned by the window tree.
+    DrawingCanvas* m_canvas = nullptr;
+    CommandLine* m_commandLine = nullptr;
+    wxNotebook* m_panels = nullptr;
+    wxSplitterWindow* m_sideSplitter = nullptr;
+    wxSplitterWindow* m_lowerSplitter = nullptr;
+    PagePanel* m_triedPage = nullptr;
+};
+} // namespace workbench

@@ -1,0 +1,40 @@
+#include "host/dialogfactory.h"
+
+#include "host/messagedialog.h"
+#include "host/pagegroup.h"
+
+#include <wx/colordlg.h>
+
+namespace workbench {
+DialogFactory::DialogFactory(PageGroup& pages) : m_pages(pages)
+{}
+
+wxWindow* DialogFactory::parentFor(wxWindow* parent) const
+{
+    return m_pages.modals().parentFor(parent);
+}
+
+std::pair<int, bool> DialogFactory::message(OdString caption, OdString text, OdString extraText,
+                                            velm::EMessageStyle style,
+                                            const std::vector<velm::MessageButtonInfo>& buttons, wxWindow* parent)
+{
+    if (m_faker)
+        return {m_faker(text.c_str(), caption.c_str(), static_cast<int>(style), parent), false};
+    MessageDialog dialog(parentFor(parent), caption.c_str(), text.c_str(), extraText.c_str(), style, buttons);
+    const int id = dialog.ShowModal();
+    return {id, dialog.isQuestionChecked()};
+}
+
+std::optional<OdCmColor> DialogFactory::colorDialog(wxWindow* parent, const OdCmColor* initial, unsigned)
+{
+    wxColourData data;
+    data.SetChooseFull(true);
+    if (initial)
+        data.SetColour(wxColour(initial->red(), initial->green(), initial->blue()));
+    wxColourDialog dialog(parentFor(parent), &data);
+    if (dialog.ShowModal() != wxID_OK)
+        return {};
+    const wxColour colour = dialog.GetColourData().GetColour();
+    return OdCmColor::fromRGB(colour.Red(), colour.Green(), colour.Blue());
+}
+} // namespace workbench

@@ -1,0 +1,98 @@
+#include "host/guicontroller.h"
+
+#include "host/pagedialog.h"
+#include "velm/bridge/conversions.h"
+#include "velm/bridge/externalfunctions.h"
+
+#include <QObject>
+
+#include <wx/utils.h>
+
+#include <algorithm>
+#include <iterator>
+
+namespace workbench {
+namespace {
+// The standard lineweights, in hundredths of a millimetre.
+constexpr int lineWeights[] = {0,  5,  9,  13, 15, 18,  20,  25,  30,  35,  40,  50,
+                               53, 60, 70, 80, 90, 100, 106, 120, 140, 158, 200, 211};
+} // namespace
+
+GuiController::GuiController(PageGroup& pages) : m_pages(pages), m_colors(velm::createEmptyGuiController())
+{}
+
+GuiController::~GuiController() = default;
+
+std::unique_ptr<velm::IHostDialog> GuiController::createDialog(const QUrl& page, velm::BaseDialogController* controller,
+                                                               wxWindow* parent, const velm::DialogOptions& options,
+                                                               void*)
+{
+    return std::make_unique<HostDialog>(m_pages, page, controller, parent, options);
+}
+
+void GuiController::hostOpenUrl(QUrl url)
+{
+    wxLaunchDefaultBrowser(velm::wxFromQt(url.toString()));
+}
+
+void GuiController::addContextDialog(velm::IHostDialog* dialog)
+{
+    m_contextDialogs.push_back(dialog);
+}
+
+void GuiController::removeContextDialog(velm::IHostDialog* dialog)
+{
+    std::erase(m_contextDialogs, dialog);
+}
+
+std::shared_ptr<void> GuiController::hostCreateShared1(const QUrl&, std::unique_ptr<QObject>)
+{
+    return {};
+}
+
+bool GuiController::shouldInitColor(const OdCmColor& color, int flags)
+{
+    return m_colors->shouldInitColor(color, flags);
+}
+
+OdArray<int> GuiController::initColorIndices(int flags)
+{
+    return m_colors->initColorIndices(flags);
+}
+
+std::optional<int> GuiController::tryAddColor(const OdCmColor& color, int flags)
+{
+    return m_colors->tryAddColor(color, flags);
+}
+
+OdCmColor& GuiController::getArrayColor(int index, int flags)
+{
+    return m_colors->getArrayColor(index, flags);
+}
+
+velm::ColorDescription GuiController::describeColor(const OdCmColor& color, wxColour byLayerColor, bool layerOverride,
+                                                    int flags)
+{
+    return m_colors->describeColor(color, byLayerColor, layerOverride, flags);
+}
+
+int GuiController::colorComboFlagsToDialog(int comboFlags, bool varies)
+{
+    return m_colors->colorComboFlagsToDialog(comboFlags, varies);
+}
+
+int GuiController::lineWeightCount()
+{
+    return static_cast<int>(std::size(lineWeights));
+}
+
+int GuiController::lineWeightAt(int index)
+{
+    return index >= 0 && index < lineWeightCount() ? lineWeights[index] : 0;
+}
+
+OdString GuiController::lineWeightName(int lineWeight)
+{
+    return wxString::FromCDouble(lineWeight / 100.0, 2).Append(" mm").wc_str();
+}
+} // namespace workbench

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "velm/bridge/iguicontroller.h"
+
+#include <memory>
+#include <vector>
+
+namespace workbench {
+class PageGroup;
+
+/// The host's GUI service: dialogs with pages, addresses opened in the browser, and the lineweight table. The shared
+/// colours are velm's own. Not supported, and answered as by a host without them: linetype lists and pictures,
+/// described colours, and what only other hosts' plugins ask for.
+class GuiController : public velm::IGuiController
+{
+public:
+    explicit GuiController(PageGroup& pages);
+    ~GuiController() override;
+
+    std::unique_ptr<velm::IHostDialog> createDialog(const QUrl& page, velm::BaseDialogController* controller,
+                                                    wxWindow* parent, const velm::DialogOptions& options,
+                                                    void* context) override;
+    bool hostQuery1() override { return false; }
+    void hostAction1() override {}
+    void hostAction2() override {}
+    void hostOpenUrl(QUrl url) override;
+    void addContextDialog(velm::IHostDialog* dialog) override;
+    void removeContextDialog(velm::IHostDialog* dialog) override;
+    std::shared_ptr<void> hostCreateShared1(const QUrl&, std::unique_ptr<QObject>) override;
+    std::intptr_t hostQuery2() override { return 0; }
+    std::shared_ptr<void> hostCreateShared2() override { return {}; }
+    void hostAction3() override {}
+    bool hostQuery3() override { return false; }
+    bool hostQuery4() override { return false; }
+    bool shouldInitColor(const OdCmColor& color, int flags) override;
+    OdArray<int> initColorIndices(int flags) override;
+    std::optional<int> tryAddColor(const OdCmColor& color, int flags) override;
+    OdCmColor& getArrayColor(int index, int flags) override;
+    velm::ColorDescription describeColor(const OdCmColor& color, wxColour byLayerColor, bool layerOverride,
+                                         int flags) override;
+    int colorComboFlagsToDialog(int comboFlags, bool varies) override;
+    OdString linetypeLocalName(const OdString& storedName) override { return storedName; }
+    bool loadLineTypes(OdDbDatabase*, bool, OdDbObjectId&, bool, velm::LoadedLineTypes&) override { return false; }
+    bool drawLineTypeBitmap(int, int, wxBitmap&, OdDbObjectId, OdDbObjectId, const wxColour&) override { return false; }
+    int lineWeightCount() override;
+    int lineWeightAt(int index) override;
+    OdString lineWeightName(int lineWeight) override;
+    std::intptr_t hostValue() override { return 0; }
+    void hostAction4() override {}
+    void hostAction5() override {}
+    void hostAction6() override {}
+    void hostTakeShared(std::shared_ptr<void>) override {}
+    void hostAction7() override {}
+    void hostTakeString1(wxString) override {}
+    void hostTakeStrings(wxString, wxString) override {}
+    void hostTakeString2(wxString) override {}
+    std::intptr_t hostQuery7() override { return 0; }
+    void hostAction8() override {}
+    void hostTakeOwned(std::unique_ptr<velm::HostRecord>) override {}
+    bool hostQuery8() override { return false; }
+
+private:
+    PageGroup& m_pages;
+    std::unique_ptr<velm::IGuiController> m_colors;   // keeps the shared colours
+    std::vector<velm::IHostDialog*> m_contextDialogs; // not owned
+};
+} // namespace workbench

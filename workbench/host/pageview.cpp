@@ -1,0 +1,131 @@
+#include "host/pageview.h"
+
+#include <QQuickItem>
+
+namespace workbench {
+namespace {
+bool isInput(QEvent::Type type)
+{
+    switch (type) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::HoverEnter:
+    case QEvent::HoverMove:
+    case QEvent::Wheel:
+    case QEvent::NativeGesture:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::Shortcut:
+    case QEvent::ShortcutOverride:
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TabletPress:
+    case QEvent::TabletMove:
+    case QEvent::TabletRelease:
+    case QEvent::ContextMenu:
+        return true;
+    default:
+        return false;
+    }
+}
+} // namespace
+
+PageView::PageView() = default;
+
+PageView::~PageView() = default;
+
+void PageView::setRoot(std::unique_ptr<QQuickItem> root)
+{
+    m_root = std::move(root);
+    if (m_root) {
+        m_root->setParentItem(contentItem());
+        m_root->setSize(size());
+    }
+}
+
+void PageView::setBlocked(bool blocked)
+{
+    if (m_blocked == blocked)
+        return;
+    if (blocked) {
+        // Whatever was pressed or hovered would stay so, since its end is swallowed.
+        if (QQuickItem* grabber = mouseGrabberItem())
+            grabber->ungrabMouse();
+        QEvent leave(QEvent::Leave);
+        QQuickWindow::event(&leave);
+    }
+    m_blocked = blocked;
+    // Qt activates a clicked window before the window hears of the click.
+    setFlag(Qt::WindowDoesNotAcceptFocus, blocked);
+}
+
+void PageView::focusEnd(bool first)
+{
+    QQuickItem* item = contentItem()->nextItemInFocusChain(first);
+    if (item && item != contentItem())
+        item->forceActiveFocus(first ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+}
+
+bool PageView::hasFocusItem() const
+{
+    // An inactive window has no active item, but its scopes remember theirs.
+    const QQuickItem* item = contentItem();
+    while (item->isFocusScope() && item->scopedFocusItem())
+        item = item->scopedFocusItem();
+    return item != contentItem() && item != m_root.get();
+}
+
+bool PageView::leavesByTab(bool forward) const
+{
+    QQuickItem* current = activeFocusItem();
+    QQuickItem* entry = contentItem()->nextItemInFocusChain(forward);
+    if (!entry || entry == contentItem())
+        return true;
+    if (!current || (current->isAncestorOf(entry) && !current->activeFocusOnTab()))
+        return false;
+    // A text editor of several lines takes Tab as text.
+    if (current->inherits("QQuickTextEdit") && !current->property("readOnly").toBool())
+        return false;
+    return current->nextItemInFocusChain(forward) == entry;
+}
+
+bool PageView::event(QEvent* event)
+{
+    if (m_blocked && isInput(event->type())) {
+        event->accept();
+        return true;
+    }
+    if (event->type() == QEvent::MouseButtonPress && onPressed)
+        onPressed();
+    return QQuickWindow::event(event);
+}
+
+void PageView::keyPressEvent(QKeyEvent* event)
+{
+    const bool tab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
+    if (tab && !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier))) {
+        const bool forward = event->key() == Qt::Key_Tab && !(event->modifiers() & Qt::ShiftModifier);
+        if (leavesByTab(forward)) {
+            if (!onTabbedOut || !onTabbedOut(forward))
+                focusEnd(forward);
+            event->accept();
+            return;
+        }
+    }
+    event->setAccepted(activeFocusItem() != nullptr);
+    QQuickWindow::keyPressEvent(event);
+    if (!event->isAccepted() && onKey)
+        onKey(*event);
+    event->accept();
+}
+
+void PageView::resizeEvent(QResizeEvent* event)
+{
+    QQuickWindow::resizeEvent(event);
+    if (m_root)
+        m_root->setSize(size());
+}
+} // namespace workbench

@@ -1,0 +1,266 @@
+#include "tour/driver.h"
+
+#include "app/mainframe.h"
+#include "app/workbenchapp.h"
+#include "command/commandline.h"
+#include "host/pagegroup.h"
+#include "host/pagepanel.h"
+#include "host/pageview.h"
+#include "velm/bridge/conversions.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QImage>
+#include <QProcess>
+#include <QQuickItem>
+#include <QScreen>
+#include <QThread>
+#include <QVariant>
+
+#include <wx/dialog.h>
+#include <wx/stattext.h>
+#include <wx/textctrl.h>
+
+#include <exception>
+
+namespace workbench {
+namespace {
+constexpr int pollInterval = 20; // milliseconds
+
+QQuickItem* findBelow(QQuickItem* item, const QString& name)
+{
+    if (!item || !item->isVisible())
+        return nullptr;
+    if (item->objectName() == name)
+        return item;
+    // Rows of a list are children of the view only, not of the page's objects.
+    for (QQuickItem* child : item->childItems())
+        if (QQuickItem* found = findBelow(child, name))
+            return found;
+    return nullptr;
+}
+
+void collectTexts(const wxWindow& window, QString& texts)
+{
+    for (const wxWindow* child : window.GetChildren()) {
+        if (const auto* text = dynamic_cast<const wxStaticText*>(child))
+            texts += velm::toQt(text->GetLabel()) + '\n';
+        collectTexts(*child, texts);
+    }
+}
+} // namespace
+
+void Driver::waitForStart()
+{
+    waitFor("the program's window", [this] { return m_app.frame()->IsActive() || (dialog() && dialog()->IsActive()); });
+}
+
+void Driver::invoke(const std::function<void()>& function)
+{
+    if (QThread::currentThread() == qApp->thread())
+        return function();
+    std::exception_ptr exception;
+    QMetaObject::invokeMethod(
+        qApp,
+        [&] {
+            try {
+                function();
+            } catch (...) {
+                exception = std::current_exception();
+            }
+        },
+        Qt::BlockingQueuedConnection);
+    if (exception)
+        std::rethrow_exception(exception);
+}
+
+void Driver::start(std::function<void()> function)
+{
+    QMetaObject::invokeMethod(qApp, std::move(function), Qt::QueuedConnection);
+}
+
+void Driver::waitFor(const QString& what, const std::function<bool()>& condition, int milliseconds)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (!ask(condition)) {
+        if (timer.elapsed() > milliseconds)
+            throw DriverError(QStringLiteral("waited in vain for this: ") + what);
+        QThread::msleep(pollInterval);
+    }
+}
+
+QQuickItem* Driver::findItem(const QString& name, PagePanel** panel)
+{
+    for (PagePanel* page : m_app.pages().pages())
+        if (page->IsShownOnScreen())
+            if (QQuickItem* item = findBelow(page->view()->contentItem(), name)) {
+                if (panel)
+                    *panel = page;
+                return item;
+            }
+    return nullptr;
+}
+
+QQuickItem* Driver::needItem(const QString& name, PagePanel** panel)
+{
+    QQuickItem* item = findItem(name, panel);
+    if (!item)
+        throw DriverError(QStringLiteral("there is no item \"%1\" on the screen").arg(name));
+    return item;
+}
+
+bool Driver::hasItem(const QString& name)
+{
+    return ask([&] { return findItem(name) != nullptr; });
+}
+
+QVariant Driver::property(const QString& name, const char* property)
+{
+    waitFor(QStringLiteral("the item \"%1\"").arg(name), [&] { return findItem(name) != nullptr; });
+    return ask([&] { return needItem(name)->property(property); });
+}
+
+bool Driver::itemHasFocus(const QString& name)
+{
+    return ask([&] {
+        const QQuickItem* item = findItem(name);
+        return item && item->hasActiveFocus();
+    });
+}
+
+void Driver::clickItem(const QString& name)
+{
+    // Where it is now may not be where it stays: a page that was just made is laid out on its first frame.
+    QPoint place;
+    waitFor(QStringLiteral("the item \"%1\" to be enabled and in its place").arg(name), [&] {
+        PagePanel* panel = nullptr;
+        const QQuickItem* item = findItem(name, &panel);
+        if (!item || !item->isEnabled() || item->width() <= 0)
+            return false;
+        const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
+        const QPoint now =
+            velm::toQt(panel->ClientToScreen(wxPoint())) + (centre * panel->view()->devicePixelRatio()).toPoint();
+        return std::exchange(place, now) == now;
+    });
+    click(place);
+}
+
+void Driver::click(QPoint screen)
+{
+    xdotool({"mousemove", QString::number(screen.x()), QString::number(screen.y()), "click", "1"});
+}
+
+QRect Driver::rectOf(wxWindow& window)
+{
+    return ask([&] {
+        const double scale = window.GetContentScaleFactor();
+        return QRect(velm::toQt(window.GetScreenPosition()) * scale, velm::toQt(window.GetSize()) * scale);
+    });
+}
+
+void Driver::click(wxWindow& window)
+{
+    QRect place;
+    waitFor("a window to be in its place", [&] {
+        const QRect now = rectOf(window);
+        return window.IsShownOnScreen() && std::exchange(place, now) == now;
+    });
+    click(place.center());
+}
+
+void Driver::key(const QString& keys)
+{
+    xdotool({"key", keys});
+}
+
+void Driver::type(const QString& text)
+{
+    xdotool({"type", "--delay", "5", "--", text});
+}
+
+void Driver::replaceText(const QString& text)
+{
+    key("ctrl+a");
+    type(text);
+}
+
+void Driver::command(const QString& line)
+{
+    wxTextCtrl* input = m_app.frame()->commandLine().input();
+    click(*input);
+    waitFor("the command line to have the focus", [&] { return input->HasFocus(); });
+    replaceText(line);
+    waitFor("the command to be typed", [&] { return velm::toQt(input->GetValue()) == line; });
+    key("Return");
+}
+
+wxTopLevelWindow* Driver::dialog()
+{
+    wxDialog* top = m_app.pages().modals().top();
+    return top && top->IsShown() ? top : nullptr;
+}
+
+void Driver::waitForDialog(const QString& title)
+{
+    waitFor(QStringLiteral("the dialog \"%1\"").arg(title), [&] {
+        const wxTopLevelWindow* top = dialog();
+        return top && top->IsShownOnScreen() && velm::toQt(top->GetTitle()) == title && dialog()->IsActive();
+    });
+}
+
+void Driver::waitForNoDialog()
+{
+    waitFor("no dialog", [&] { return dialog() == nullptr && m_app.pages().modals().top() == nullptr; });
+}
+
+QString Driver::dialogText()
+{
+    return ask([&] {
+        QString texts;
+        if (const wxTopLevelWindow* top = dialog())
+            collectTexts(*top, texts);
+        return texts;
+    });
+}
+
+QImage Driver::picture()
+{
+    // Two frames of every page: the first takes over what changed, the second shows that it reached the screen.
+    ask([&] {
+        for (PagePanel* page : m_app.pages().pages())
+            if (page->IsShownOnScreen()) {
+                page->view()->update();
+                page->Update();
+            }
+    });
+    return ask([] { return QGuiApplication::primaryScreen()->grabWindow(0).toImage(); });
+}
+
+bool Driver::savePicture(const QString& file)
+{
+    // The screen is at rest when two pictures in a row are the same, apart from a blinking cursor.
+    QImage last = picture();
+    for (int tries = 0; tries < 20; ++tries) {
+        QThread::msleep(pollInterval * 3);
+        const QImage next = picture();
+        if (next == last)
+            break;
+        last = next;
+    }
+    return last.save(file);
+}
+
+void Driver::xdotool(const QStringList& arguments)
+{
+    QProcess process;
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start("xdotool", arguments);
+    if (!process.waitForStarted())
+        throw DriverError(QStringLiteral("the tool xdotool can't be run: ") + process.errorString());
+    process.waitForFinished();
+    if (process.exitCode() != 0)
+        throw DriverError(QStringLiteral("xdotool %1: %2").arg(arguments.join(' '), process.readAll().trimmed()));
+}
+} // namespace workbench

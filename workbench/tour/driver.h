@@ -1,0 +1,97 @@
+#pragma once
+
+#include <QObject>
+#include <QRect>
+#include <QString>
+#include <QStringList>
+
+#include <wx/window.h>
+
+#include <functional>
+#include <stdexcept>
+#include <type_traits>
+
+class QQuickItem;
+class wxTopLevelWindow;
+
+namespace workbench {
+class PagePanel;
+class WorkbenchApp;
+
+/// What a step expected and didn't find.
+class DriverError : public std::runtime_error
+{
+public:
+    explicit DriverError(const QString& what) : std::runtime_error(what.toStdString()) {}
+};
+
+/// Works the running program with the real mouse and keyboard of its X server, by the tool xdotool, and looks at what
+/// it did. It is used on a thread of its own, so that the program's loops, also modal ones, go on; every look is taken
+/// on the program's thread. Whatever doesn't come in time throws a DriverError that says what was waited for.
+class Driver
+{
+public:
+    explicit Driver(WorkbenchApp& app) : m_app(app) {}
+
+    WorkbenchApp& app() { return m_app; }
+
+    /// Runs a function on the program's thread and gives its result; on that thread itself it is just called.
+    template <typename Function>
+    auto ask(Function function)
+    {
+        using Result = std::invoke_result_t<Function>;
+        if constexpr (std::is_void_v<Result>) {
+            invoke([&] { function(); });
+        } else {
+            Result result{};
+            invoke([&] { result = function(); });
+            return result;
+        }
+    }
+    /// Waits until the program's window, or a dialog over it, is the active one.
+    void waitForStart();
+    /// Starts a function on the program's thread without waiting for its end, since it may run a dialog.
+    void start(std::function<void()> function);
+
+    /// Waits until the condition, asked on the program's thread, holds.
+    void waitFor(const QString& what, const std::function<bool()>& condition, int milliseconds = 10000);
+
+    // Items of pages by their object names. The item is awaited, in any page that is on the screen.
+    bool hasItem(const QString& name);
+    QVariant property(const QString& name, const char* property);
+    void clickItem(const QString& name);
+    /// Whether the item or what is in it has the keyboard.
+    bool itemHasFocus(const QString& name);
+
+    void click(QPoint screen);
+    void click(wxWindow& window);
+    /// The window's place on the screen, in pixels.
+    QRect rectOf(wxWindow& window);
+    /// Keys by their names of xdotool, as in "ctrl+o" or "shift+Tab".
+    void key(const QString& keys);
+    void type(const QString& text);
+    /// Puts the text in the place of what the focused field holds.
+    void replaceText(const QString& text);
+    /// Types a command into the command line.
+    void command(const QString& line);
+
+    /// The innermost modal dialog that is on the screen, or null. For use inside ask() only.
+    wxTopLevelWindow* dialog();
+    void waitForDialog(const QString& title);
+    void waitForNoDialog();
+    /// All static texts of the innermost dialog, a line each.
+    QString dialogText();
+
+    /// A picture of the whole screen, once the program has drawn what was asked of it.
+    bool savePicture(const QString& file);
+    QImage picture();
+
+private:
+    void invoke(const std::function<void()>& function);
+    void xdotool(const QStringList& arguments);
+    QQuickItem* findItem(const QString& name, PagePanel** panel = nullptr);
+    QQuickItem* needItem(const QString& name, PagePanel** panel = nullptr);
+
+    WorkbenchApp& m_app;
+};
+} // namespace workbench

@@ -1,0 +1,247 @@
+#include "tour/tour.h"
+
+#include "app/mainframe.h"
+#include "app/velmsession.h"
+#include "app/workbenchapp.h"
+#include "command/commandline.h"
+#include "drawing/drawingcanvas.h"
+#include "host/pagepanel.h"
+#include "od/oddbdatabase.h"
+#include "tour/driver.h"
+#include "velm/bridge/conversions.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QVariant>
+
+#include <wx/notebook.h>
+
+#include <cstdio>
+
+namespace workbench {
+namespace {
+constexpr const char* smallDrawing = "0\nSECTION\n2\nTABLES\n0\nTABLE\n2\nLAYER\n70\n3\n"
+                                     "0\nLAYER\n2\n0\n70\n0\n62\n7\n6\nCONTINUOUS\n"
+                                     "0\nLAYER\n2\nOutline\n70\n0\n62\n3\n6\nCONTINUOUS\n"
+                                     "0\nLAYER\n2\nHoles\n70\n0\n62\n1\n6\nCONTINUOUS\n"
+                                     "0\nENDTAB\n0\nENDSEC\n0\nSECTION\n2\nENTITIES\n"
+                                     "0\nCIRCLE\n8\nOutline\n10\n0\n20\n0\n30\n0\n40\n50\n"
+                                     "0\nCIRCLE\n8\nHoles\n10\n0\n20\n0\n30\n0\n40\n20\n"
+                                     "0\nENDSEC\n0\nEOF\n";
+
+/// One walk through the program.
+class Tour
+{
+public:
+    Tour(WorkbenchApp& app, const QString& folder) : m_driver(app), m_frame(*app.frame()), m_folder(folder) {}
+
+    int run(bool hasDrawing);
+
+private:
+    void check(bool holds, const QString& what);
+    void save(const QString& name);
+    QString write(const QString& name, const QByteArray& text);
+    void waitForLog(const QString& text);
+    void showTab(int tab);
+    QString layerName(int row);
+
+    void openDrawing();
+    void switchLayer();
+    void showDrawingPanel();
+    void showBrokenPage();
+    void startRenaming();
+    void refuseName();
+    void acceptName();
+    void switchTheme();
+    void refuseDrawing();
+    void rebuildEngine();
+    void closeDrawing();
+
+    Driver m_driver;
+    MainFrame& m_frame;
+    QString m_folder;
+    QTemporaryDir m_scratch;
+    bool m_hasDrawing = false;
+    int m_step = 0;
+    int m_picture = 0;
+};
+
+void Tour::check(bool holds, const QString& what)
+{
+    if (!holds)
+        throw DriverError(QStringLiteral("this isn't so: ") + what);
+}
+
+void Tour::save(const QString& name)
+{
+    const QString file =
+        QStringLiteral("%1/%2-%3.png").arg(m_folder).arg(++m_picture, 2, 10, QLatin1Char('0')).arg(name);
+    check(m_driver.savePicture(file), "the picture can be stored: " + file);
+}
+
+QString Tour::write(const QString& name, const QByteArray& text)
+{
+    QFile file(m_scratch.filePath(name));
+    check(file.open(QIODevice::WriteOnly) && file.write(text) == text.size(), "a scratch file can be written");
+    return file.fileName();
+}
+
+void Tour::waitForLog(const QString& text)
+{
+    m_driver.waitFor("the log to say: " + text,
+                     [&] { return velm::toQt(m_frame.commandLine().logText()).contains(text); });
+}
+
+void Tour::showTab(int tab)
+{
+    m_driver.ask([&] { m_frame.panels().SetSelection(static_cast<size_t>(tab)); });
+}
+
+void Tour::openDrawing()
+{
+    m_driver.waitForStart();
+    if (!m_hasDrawing)
+        m_driver.command("OPEN " + write("small.dxf", smallDrawing));
+    m_driver.waitFor(
+        "the drawing's layers in the list", [&] { return m_frame.layers().layers()->rowCount() > 2; }, 30000);
+    m_driver.waitFor("the drawing on the canvas", [&] { return m_frame.canvas().drawnEntityCount() > 0; });
+    m_driver.waitFor("the list on the screen", [&] { return m_driver.hasItem("layer:0"); });
+}
+
+QString Tour::layerName(int row)
+{
+    return m_driver.ask([&] { return m_frame.layers().layers()->index(row, 0).data().toString(); });
+}
+
+void Tour::switchLayer()
+{
+    const size_t before = m_driver.ask([&] { return m_frame.canvas().drawnEntityCount(); });
+    m_driver.clickItem("on:" + layerName(1));
+    m_driver.waitFor("fewer entities on the canvas", [&] { return m_frame.canvas().drawnEntityCount() < before; });
+    save("a-layer-switched-off");
+    m_driver.clickItem("on:" + layerName(1));
+    m_driver.waitFor("all entities on the canvas", [&] { return m_frame.canvas().drawnEntityCount() == before; });
+}
+
+void Tour::showDrawingPanel()
+{
+    showTab(1);
+    m_driver.waitFor("the panel to name the drawing", [&] { return m_driver.hasItem("fileName"); });
+}
+
+void Tour::showBrokenPage()
+{
+    const QString file = write("BrokenPage.qml", "import QtQuick\n\nItem {\n    width: 10 +\n}\n");
+    m_driver.command("PAGE " + file);
+    m_driver.waitFor("the note in the page's place", [&] { return m_driver.hasItem("noteReason"); });
+    check(m_driver.property("noteReason", "text").toString().contains("BrokenPage.qml:5"), "the note names the line");
+}
+
+void Tour::startRenaming()
+{
+    m_driver.clickItem("layer:" + layerName(1));
+    m_driver.clickItem("rename");
+    m_driver.waitForDialog("Rename Layer");
+    m_driver.waitFor("the keyboard in the name field", [&] { return m_driver.itemHasFocus("name"); });
+}
+
+void Tour::refuseName()
+{
+    m_driver.command("PAGE");
+    showTab(0);
+    startRenaming();
+    save("name-dialog");
+    m_driver.replaceText("0");
+    m_driver.waitFor("the name in the field", [&] { return m_driver.property("name", "text") == "0"; });
+    m_driver.key("Return");
+    m_driver.waitFor("the refusal", [&] { return m_driver.dialogText().contains("already"); });
+}
+
+void Tour::acceptName()
+{
+    m_driver.key("Return");
+    m_driver.waitForDialog("Rename Layer");
+    m_driver.waitFor("the keyboard in the name field again", [&] { return m_driver.itemHasFocus("name"); });
+    m_driver.replaceText("Toured");
+    m_driver.waitFor("the name in the field", [&] { return m_driver.property("name", "text") == "Toured"; });
+    m_driver.clickItem("accept");
+    m_driver.waitForNoDialog();
+    m_driver.waitFor("the new name in the list", [&] { return m_driver.hasItem("layer:Toured"); });
+}
+
+void Tour::switchTheme()
+{
+    const auto brightness = [this] {
+        const QImage picture = m_driver.picture();
+        return picture.pixelColor(m_driver.rectOf(m_frame.canvas()).topLeft() + QPoint(4, 4)).lightness();
+    };
+    check(brightness() < 100, "the canvas is dark in the dark theme");
+    m_driver.command("THEME LIGHT");
+    m_driver.waitFor("the light theme", [&] { return ut::configColorTheme() == ut::EGuiColorTheme::Light; });
+    save("light-theme");
+    check(brightness() > 150, "the canvas is light in the light theme");
+    m_driver.command("THEME DARK");
+    m_driver.waitFor("the dark theme", [&] { return ut::configColorTheme() == ut::EGuiColorTheme::Dark; });
+    check(brightness() < 100, "the canvas is dark again");
+}
+
+void Tour::refuseDrawing()
+{
+    const QString file = write("damaged.dxf", "  0\nSECTION\n  2\nENTITIES\n  0\nLINE\n 10\n1.0\n 2");
+    const int layers = m_driver.ask([&] { return m_frame.layers().layers()->rowCount(); });
+    m_driver.command("OPEN " + file);
+    m_driver.waitForDialog("Open Drawing");
+    check(m_driver.dialogText().contains("damaged.dxf"), "the message names the file");
+    check(m_driver.ask([&] { return m_frame.layers().layers()->rowCount(); }) == layers, "the open drawing stays");
+}
+
+void Tour::rebuildEngine()
+{
+    m_driver.key("Return");
+    m_driver.waitForNoDialog();
+    m_driver.command("REBUILD");
+    waitForLog("The pages run in a new engine.");
+    m_driver.waitFor("the pages with what they showed", [&] { return m_driver.hasItem("layer:Toured"); });
+}
+
+void Tour::closeDrawing()
+{
+    m_driver.key("Escape");
+    m_driver.key("ctrl+w");
+    m_driver.waitFor("an empty list", [&] { return m_frame.layers().layers()->rowCount() == 0; });
+}
+
+int Tour::run(bool hasDrawing)
+{
+    QDir().mkpath(m_folder);
+    m_hasDrawing = hasDrawing;
+    const std::pair<const char*, void (Tour::*)()> steps[] = {
+        {"open-drawing", &Tour::openDrawing},       {"layers-panel", &Tour::switchLayer},
+        {"drawing-panel", &Tour::showDrawingPanel}, {"broken-page", &Tour::showBrokenPage},
+        {"name-refused", &Tour::refuseName},        {"name-accepted", &Tour::acceptName},
+        {"dark-theme", &Tour::switchTheme},         {"damaged-drawing-refused", &Tour::refuseDrawing},
+        {"engine-rebuilt", &Tour::rebuildEngine},   {"drawing-closed", &Tour::closeDrawing},
+    };
+    for (const auto& [name, work] : steps) {
+        ++m_step;
+        try {
+            (this->*work)();
+            save(name);
+        } catch (const std::exception& problem) {
+            std::fprintf(stderr, "tour: step %d, %s: %s\n", m_step, name, problem.what());
+            m_driver.savePicture(m_folder + "/failure.png");
+            return 1;
+        }
+        std::printf("%2d %s\n", m_step, name);
+        std::fflush(stdout);
+    }
+    return 0;
+}
+} // namespace
+
+int runTour(WorkbenchApp& app, const QString& folder, bool hasDrawing)
+{
+    return Tour(app, folder).run(hasDrawing);
+}
+} // namespace workbench
