@@ -11,28 +11,39 @@
 #else
 #include <cstdint>
 
-struct HWND__;
-struct HGLRC__;
+struct NativeWindow;
+struct NativeGlContext;
 /// A native window; on X11 the window's XID.
-using HWND = HWND__*;
+using HWND = NativeWindow*;
 /// A native OpenGL context; on X11 a GLXContext.
-using HGLRC = HGLRC__*;
+using HGLRC = NativeGlContext*;
 /// A colour 0x00BBGGRR.
 using COLORREF = std::uint32_t;
 
-constexpr COLORREF RGB(unsigned red, unsigned green, unsigned blue) { return red | (green << 8) | (blue << 16); }
-constexpr std::uint8_t GetRValue(COLORREF color) { return static_cast<std::uint8_t>(color & 0xFF); }
-constexpr std::uint8_t GetGValue(COLORREF color) { return static_cast<std::uint8_t>((color >> 8) & 0xFF); }
-constexpr std::uint8_t GetBValue(COLORREF color) { return static_cast<std::uint8_t>((color >> 16) & 0xFF); }
+constexpr COLORREF RGB(unsigned red, unsigned green, unsigned blue)
+{
+    return red | (green << 8) | (blue << 16);
+}
+constexpr std::uint8_t GetRValue(COLORREF color)
+{
+    return static_cast<std::uint8_t>(color & 0xFF);
+}
+constexpr std::uint8_t GetGValue(COLORREF color)
+{
+    return static_cast<std::uint8_t>((color >> 8) & 0xFF);
+}
+constexpr std::uint8_t GetBValue(COLORREF color)
+{
+    return static_cast<std::uint8_t>((color >> 16) & 0xFF);
+}
 #endif
 
 QT_BEGIN_NAMESPACE
 class QOpenGLContext;
 QT_END_NAMESPACE
 
-namespace desktop
-{
+namespace desktop {
 /// The Qt form of a native OpenGL context and its window, or null when the running platform has no such form.
 /// The caller owns the result; the native context stays its maker's.
 PLATFORM_EXPORT QOpenGLContext* openGlContextFromNative(HGLRC context, HWND window);
-}
+} // namespace desktop

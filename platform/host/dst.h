@@ -1,7 +1,6 @@
 #pragma once
 
-namespace dst
-{
+namespace dst {
 /// A sheet of a sheet set; only its address passes through here.
 class OdSmSheet;
-}
+} // namespace dst

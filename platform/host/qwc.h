@@ -4,8 +4,7 @@
 
 #include <wx/dialog.h>
 
-namespace qwc
-{
+namespace qwc {
 /// The host's base of all dialogs. What its modal run does is the host's own.
 class PLATFORM_EXPORT qwxDialog : public wxDialog
 {
@@ -13,4 +12,4 @@ public:
     using wxDialog::wxDialog;
     ~qwxDialog() override;
 };
-}
+} // namespace qwc

@@ -59,6 +59,6 @@ private:
     void makeCurrent(OdApDocument* document);
 
     std::vector<std::unique_ptr<OdApDocument>> m_documents;
-    OdApDocument* m_current = nullptr; // not owned
+    OdApDocument* m_current = nullptr;              // not owned
     std::vector<OdApDocManagerReactor*> m_reactors; // not owned
 };

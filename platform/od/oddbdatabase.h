@@ -69,7 +69,7 @@ private:
     template <typename T>
     struct Table
     {
-        std::vector<T*> records; // owned by m_objects
+        std::vector<T*> records;           // owned by m_objects
         std::map<std::wstring, T*> byName; // the key is the name in lower case
     };
 

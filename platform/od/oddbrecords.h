@@ -6,8 +6,7 @@
 #include "od/odge.h"
 
 /// Lineweights are in hundredths of a millimetre; below zero stand the special ones.
-namespace OdDb
-{
+namespace OdDb {
 enum LineWeight
 {
     kLnWtByLayer = -1,

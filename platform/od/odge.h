@@ -11,8 +11,14 @@ struct OdGeVector3d
 
     double length() const { return std::sqrt(x * x + y * y + z * z); }
 
-    friend OdGeVector3d operator+(const OdGeVector3d& a, const OdGeVector3d& b) { return {a.x + b.x, a.y + b.y, a.z + b.z}; }
-    friend OdGeVector3d operator*(const OdGeVector3d& a, double factor) { return {a.x * factor, a.y * factor, a.z * factor}; }
+    friend OdGeVector3d operator+(const OdGeVector3d& a, const OdGeVector3d& b)
+    {
+        return {a.x + b.x, a.y + b.y, a.z + b.z};
+    }
+    friend OdGeVector3d operator*(const OdGeVector3d& a, double factor)
+    {
+        return {a.x * factor, a.y * factor, a.z * factor};
+    }
     friend bool operator==(const OdGeVector3d&, const OdGeVector3d&) = default;
 };
 
@@ -23,8 +29,14 @@ struct OdGePoint3d
     double y = 0.0;
     double z = 0.0;
 
-    friend OdGePoint3d operator+(const OdGePoint3d& p, const OdGeVector3d& v) { return {p.x + v.x, p.y + v.y, p.z + v.z}; }
-    friend OdGeVector3d operator-(const OdGePoint3d& a, const OdGePoint3d& b) { return {a.x - b.x, a.y - b.y, a.z - b.z}; }
+    friend OdGePoint3d operator+(const OdGePoint3d& p, const OdGeVector3d& v)
+    {
+        return {p.x + v.x, p.y + v.y, p.z + v.z};
+    }
+    friend OdGeVector3d operator-(const OdGePoint3d& a, const OdGePoint3d& b)
+    {
+        return {a.x - b.x, a.y - b.y, a.z - b.z};
+    }
     friend bool operator==(const OdGePoint3d&, const OdGePoint3d&) = default;
 };
 

@@ -27,7 +27,7 @@ bool isBlank(wchar_t character)
 template <typename Order>
 int sign(Order order)
 {
-    return order < 0 ? -1 : order > 0 ? 1 : 0;
+    return std::is_lt(order) ? -1 : std::is_gt(order) ? 1 : 0;
 }
 } // namespace
 

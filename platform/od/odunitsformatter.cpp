@@ -131,7 +131,7 @@ struct Sexagesimal
         if (showsMinutes)
             result += std::to_string(units / unitsPerMinute) + '\'';
         if (showsSeconds) {
-            const double unitsPerSecond = unitsPerMinute / 60;
+            const double unitsPerSecond = unitsPerMinute / 60.0;
             result += fixed(units % unitsPerMinute / unitsPerSecond, secondDecimals) + '"';
         }
         return result;

@@ -25,7 +25,8 @@ struct OdUnits
     LinearKind linearKind = kDecimal;
     int linearPrecision = 4; ///< decimals 0 to 8; of the fractional kinds the power of two of the smallest denominator
     AngularKind angularKind = kDecimalDegrees;
-    int angularPrecision = 0; ///< decimals 0 to 8; for degrees, minutes and seconds: 0 degrees, 1 to 2 with minutes, 3 to 4 with seconds, above that decimals of a second
+    int angularPrecision = 0; ///< decimals 0 to 8; for degrees, minutes and seconds: 0 degrees, 1 to 2 with minutes, 3
+                              ///< to 4 with seconds, above that decimals of a second
 };
 
 /// Turns lengths (drawing units; inches for the feet kinds) and angles (radians) into the drawing's text and back.

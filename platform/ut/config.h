@@ -7,8 +7,7 @@
 
 #include <cstdint>
 
-namespace ut
-{
+namespace ut {
 /// The groups of the store that have a number of their own.
 enum class ECfgGroup : std::uint32_t
 {
@@ -35,7 +34,8 @@ public:
     static bool read(ECfgGroup group, const OdString& key, wxPoint& value);
     static bool read(ECfgGroup group, const OdString& key, wxRect& value);
 
-    // Each write tells whether the value reached the disk. The first failure of a process is logged, later ones are not.
+    // Each write tells whether the value reached the disk. The first failure of a process is logged, later ones are
+    // not.
     static bool writeBool(ECfgGroup group, const OdString& key, bool value);
     static bool writeLong(ECfgGroup group, const OdString& key, long value);
     static bool writeDouble(ECfgGroup group, const OdString& key, double value);
@@ -57,4 +57,4 @@ public:
     /// Forgets the open store, so that the next call opens the file that the environment names then.
     static void reopen();
 };
-}
+} // namespace ut

@@ -2,8 +2,7 @@
 
 #include "od/odstring.h"
 
-namespace ut
-{
+namespace ut {
 /// The value of a variable of the process environment, empty when it isn't set.
 PLATFORM_EXPORT OdString getEnvironment(const OdString& name);
 PLATFORM_EXPORT void setEnvironment(const OdString& name, const OdString& value);
@@ -13,4 +12,4 @@ PLATFORM_EXPORT OdString getExecutableFolder(bool withTrailingSlash);
 
 /// The path with the slashes that the system uses.
 PLATFORM_EXPORT OdString correctSlashes(const OdString& path);
-}
+} // namespace ut

@@ -2,8 +2,7 @@
 
 #include "platform_export.h"
 
-namespace ut
-{
+namespace ut {
 /// While one lives, the host's leak tracker counts no allocation: for objects that are kept to the end of the process.
 class PLATFORM_EXPORT IgnoreMemoryLeakTracking
 {
@@ -16,4 +15,4 @@ public:
     /// True while a scope lives.
     static bool isActive();
 };
-}
+} // namespace ut

@@ -81,7 +81,9 @@ OdString makeUniqueName(const OdString& name, const std::function<bool(const OdS
     OdString candidate = name;
     while (isUnique && !isUnique(candidate)) {
         increment(number);
-        candidate = stem + separator + number;
+        candidate = stem;
+        candidate += separator;
+        candidate += number;
     }
     return candidate;
 }

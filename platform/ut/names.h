@@ -4,8 +4,7 @@
 
 #include <functional>
 
-namespace ut
-{
+namespace ut {
 /// The characters that a name may not hold.
 PLATFORM_EXPORT OdString getForbiddenCharacters();
 
@@ -18,4 +17,4 @@ PLATFORM_EXPORT OdString makeUniqueName(const OdString& name, const std::functio
 /// without regard to case. Equal values of different length: fewer leading zeros first. Texts that are otherwise equal
 /// differ by case. `flags` is kept for the host and must be 0.
 PLATFORM_EXPORT int strCmpAlphanum(const wchar_t* left, const wchar_t* right, int flags);
-}
+} // namespace ut

@@ -29,10 +29,11 @@ void ThemeColorsBase::setGuiColor(EGuiColor, unsigned long)
 
 std::unique_ptr<IThemeColors> ThemeColorManager::setExtension(std::unique_ptr<IThemeColors> extension)
 {
+    if (!extension)
+        return nullptr;
     // The former one goes last: what its destructor asks is answered by the new one.
-    if (extension)
-        const auto former = std::exchange(installed(), std::move(extension));
-    return extension;
+    const auto former = std::exchange(installed(), std::move(extension));
+    return nullptr;
 }
 
 void ThemeColorManager::releaseExtension()

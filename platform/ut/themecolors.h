@@ -4,8 +4,7 @@
 
 #include <memory>
 
-namespace ut
-{
+namespace ut {
 /// The host's interface colours, by what they are for.
 enum class EGuiColor : int
 {
@@ -84,4 +83,4 @@ PLATFORM_EXPORT unsigned long guiColorRef(EGuiColor color);
 
 /// The theme that the configuration names under "COLORTHEME", or the dark one.
 PLATFORM_EXPORT EGuiColorTheme configColorTheme();
-}
+} // namespace ut

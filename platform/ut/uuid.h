@@ -5,8 +5,7 @@
 #include <array>
 #include <cstdint>
 
-namespace ut
-{
+namespace ut {
 /// A universally unique identifier.
 class PLATFORM_EXPORT UUID
 {
@@ -28,4 +27,4 @@ public:
 private:
     std::array<std::uint8_t, 16> m_bytes{};
 };
-}
+} // namespace ut

@@ -25,8 +25,7 @@
 #include <vector>
 
 /// Values of Qt, wxWidgets and the drawing database turned into one another. None of these throws.
-namespace velm
-{
+namespace velm {
 /// Up to the first zero; `text` must not be null.
 VELM_EXPORT QString toQt(const wchar_t* text);
 /// Embedded zeros are kept.
@@ -62,10 +61,10 @@ VELM_EXPORT QGenericMatrix<3, 3, float> toQt(const OdGeMatrix3d& matrix);
 
 /// From 0x00RRGGBB, opaque.
 VELM_EXPORT QColor toQtColor(int rgb);
-/// An RGB colour as it is, a colour by index 1 to 256 from entry index - 1 of `palette`, whose entries are Windows colour
-/// values 0x00BBGGRR; opaque. Any other colour, and an index without a palette, gives an invalid QColor.
+/// An RGB colour as it is, a colour by index 1 to 256 from entry index - 1 of `palette`, whose entries are Windows
+/// colour values 0x00BBGGRR; opaque. Any other colour, and an index without a palette, gives an invalid QColor.
 VELM_EXPORT QColor toQtColor(const OdCmColor& color, const unsigned long* palette);
 VELM_EXPORT QColor toQt(const wxColour& color);
 /// Red, green and alpha are kept; blue is filled from red, which hosts rely on. Exact for greys only.
 VELM_EXPORT wxColour wxFromQt(const QColor& color);
-}
+} // namespace velm

@@ -19,8 +19,7 @@
 /// The life of the one QML engine of the process. The host owns the engine; the order of calls is
 /// undefineQtEnvVars() before the QApplication, setVELMExternalFunction(), setDefaultLocale(), createEngine(),
 /// ignoreSingletonLeaksOnStartup(), refreshEngineTheme(); at the end cleanupBeforeShutdown(), resetEngine().
-namespace velm
-{
+namespace velm {
 enum class HasErrors
 {
     Yes = 0,
@@ -46,7 +45,8 @@ VELM_EXPORT void cleanupBeforeShutdown(QQmlEngine& engine);
 /// Makes the objects that Qt keeps to the end of the process while the leak tracker looks away.
 VELM_EXPORT void ignoreSingletonLeaksOnStartup(QQmlEngine& engine);
 
-/// Empties the variables by which a Qt installation would steer the library; "TN_" before a name brings a value through.
+/// Empties the variables by which a Qt installation would steer the library; "TN_" before a name brings a value
+/// through.
 VELM_EXPORT void undefineQtEnvVars();
 /// Numbers of the QML layer are those of the C locale and reject group separators.
 VELM_EXPORT void setDefaultLocale();
@@ -67,4 +67,4 @@ VELM_EXPORT QUrl getQUrl(QString file, QString module, QString folder);
 VELM_EXPORT void delayedCall(int milliseconds, std::function<void()> function);
 /// Whether the object or a superclass has a method of that name; the object must not be null.
 VELM_EXPORT bool qmlMethodIsInvokable(const QObject* object, const char* name);
-}
+} // namespace velm

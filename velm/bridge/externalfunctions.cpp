@@ -2,6 +2,7 @@
 
 #include "ut/environment.h"
 
+#include <QDebug>
 #include <QMessageLogger>
 
 namespace velm {

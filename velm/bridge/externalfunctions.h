@@ -12,8 +12,7 @@
 class OdApDocManager;
 class OdDbDatabase;
 
-namespace velm
-{
+namespace velm {
 class IDialogFactory;
 class IGuiController;
 class IUnitFormatter;
@@ -78,4 +77,4 @@ VELM_EXPORT std::unique_ptr<IGuiController> createEmptyGuiController();
 /// The path of a test resource, below the folder "Qt" in the one that the environment variable DRAWINGS_PATH names.
 /// An unset variable is warned about and taken as empty.
 VELM_EXPORT OdString getFullQtTestResourcesPath(const OdString& relative);
-}
+} // namespace velm

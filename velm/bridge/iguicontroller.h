@@ -19,8 +19,7 @@
 class QObject;
 class wxWindow;
 
-namespace velm
-{
+namespace velm {
 class BaseDialogController;
 class IHostDialog;
 
@@ -52,15 +51,17 @@ struct VELM_EXPORT HostRecord
     virtual ~HostRecord();
 };
 
-/// The host's GUI service. The order of the operations is part of the interface. Those whose names begin with "host" are
-/// called by the host and the plugins only, which give them their meaning.
+/// The host's GUI service. The order of the operations is part of the interface. Those whose names begin with "host"
+/// are called by the host and the plugins only, which give them their meaning.
 class VELM_EXPORT IGuiController
 {
 public:
     virtual ~IGuiController();
-    /// A host dialog that shows `page` with `controller` as its context; it becomes the caller's. Null: there is no dialog.
-    virtual std::unique_ptr<IHostDialog> createDialog(const QUrl& page, BaseDialogController* controller, wxWindow* parent,
-                                                      const DialogOptions& options, void* context) = 0;
+    /// A host dialog that shows `page` with `controller` as its context; it becomes the caller's. Null: there is no
+    /// dialog.
+    virtual std::unique_ptr<IHostDialog> createDialog(const QUrl& page, BaseDialogController* controller,
+                                                      wxWindow* parent, const DialogOptions& options,
+                                                      void* context) = 0;
     virtual bool hostQuery1() = 0;
     virtual void hostAction1() = 0;
     virtual void hostAction2() = 0;
@@ -79,7 +80,8 @@ public:
     virtual OdArray<int> initColorIndices(int flags) = 0;
     virtual std::optional<int> tryAddColor(const OdCmColor& color, int flags) = 0;
     virtual OdCmColor& getArrayColor(int index, int flags) = 0;
-    virtual ColorDescription describeColor(const OdCmColor& color, wxColour byLayerColor, bool layerOverride, int flags) = 0;
+    virtual ColorDescription describeColor(const OdCmColor& color, wxColour byLayerColor, bool layerOverride,
+                                           int flags) = 0;
     virtual int colorComboFlagsToDialog(int comboFlags, bool varies) = 0;
     /// The local name of a linetype's stored name.
     virtual OdString linetypeLocalName(const OdString& storedName) = 0;
@@ -106,4 +108,4 @@ public:
     virtual void hostTakeOwned(std::unique_ptr<HostRecord> record) = 0;
     virtual bool hostQuery8() = 0;
 };
-}
+} // namespace velm

@@ -9,8 +9,7 @@
 class QObject;
 class wxAcceleratorTable;
 
-namespace velm
-{
+namespace velm {
 /// Common base of what a hosted page can do besides being shown.
 class VELM_EXPORT IQtControllerInterface
 {
@@ -74,4 +73,4 @@ public:
     ISheetSetPanel* getISheetSetPanel() const;
     ILookFrom* getLookFrom() const;
 };
-}
+} // namespace velm

@@ -7,8 +7,7 @@
 #include <map>
 #include <vector>
 
-namespace velm
-{
+namespace velm {
 /// Hears when a panel is shown or hidden.
 class VELM_EXPORT QtPanelActivateListener
 {
@@ -19,8 +18,8 @@ public:
     virtual void postLoaderActivation(bool active);
 };
 
-/// The listeners of each panel, by the URL of its page. They are not owned: whoever dies removes itself first. A listener
-/// that changes the list of its own URL while it is told is not supported.
+/// The listeners of each panel, by the URL of its page. They are not owned: whoever dies removes itself first. A
+/// listener that changes the list of its own URL while it is told is not supported.
 class VELM_EXPORT PanelListenerHandler
 {
 public:
@@ -40,4 +39,4 @@ public:
 private:
     std::map<QUrl, std::vector<QtPanelActivateListener*>> m_listeners; // not owned
 };
-}
+} // namespace velm

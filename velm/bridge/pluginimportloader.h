@@ -8,8 +8,7 @@
 
 class QQmlEngine;
 
-namespace velm
-{
+namespace velm {
 /// Remembers the import paths that an engine was given, so that a rebuilt engine gets them again. It outlives engines.
 class VELM_EXPORT PluginImportLoader
 {
@@ -31,4 +30,4 @@ public:
     std::vector<QString> plugins;
     std::vector<QString> importPaths;
 };
-}
+} // namespace velm

@@ -6,8 +6,7 @@
 
 #include <memory>
 
-namespace velm
-{
+namespace velm {
 class IQtController;
 
 /// The form in which QML sees an IQtController.
@@ -28,4 +27,4 @@ private:
     struct Pimpl;
     std::unique_ptr<Pimpl> m_pimpl;
 };
-}
+} // namespace velm

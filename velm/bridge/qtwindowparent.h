@@ -11,9 +11,9 @@ class wxWindow;
 
 Q_DECLARE_OPAQUE_POINTER(wxWindow*)
 
-namespace velm
-{
-/// The host window and the Qt window that a page passes on when the host is to open a dialog above it. Neither is owned.
+namespace velm {
+/// The host window and the Qt window that a page passes on when the host is to open a dialog above it. Neither is
+/// owned.
 class VELM_EXPORT QtWindowParent : public QObject
 {
     Q_OBJECT
@@ -32,4 +32,4 @@ private:
     struct Pimpl;
     std::unique_ptr<Pimpl> m_pimpl;
 };
-}
+} // namespace velm

@@ -8,8 +8,7 @@
 
 #include <memory>
 
-namespace velm
-{
+namespace velm {
 /// One string in the host's form, in Qt's form, or in both; each form is made at most once and only when asked for.
 /// A holder that was moved from is empty.
 class VELM_EXPORT StringHolder
@@ -45,4 +44,4 @@ private:
     struct Pimpl;
     std::unique_ptr<Pimpl> m_pimpl;
 };
-}
+} // namespace velm

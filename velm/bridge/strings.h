@@ -4,8 +4,7 @@
 
 class wxString;
 
-namespace velm
-{
+namespace velm {
 /// A word in the language of the wx catalogue, or the word itself; valid as long as the catalogue.
 const wxString& hostTranslation(const wxString& word);
 
@@ -20,4 +19,4 @@ public:
     static const wchar_t* kb();
     static const wchar_t* mb();
 };
-}
+} // namespace velm

@@ -3,9 +3,6 @@
 namespace velm {
 QVariant UrlAndController::create(const QUrl& sourceUrl, QObject* controller)
 {
-    UrlAndController value;
-    value.sourceUrl = sourceUrl;
-    value.controller = controller;
-    return QVariant::fromValue(std::move(value));
+    return QVariant::fromValue(UrlAndController{sourceUrl, controller});
 }
 } // namespace velm

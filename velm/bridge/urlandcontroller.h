@@ -6,8 +6,7 @@
 #include <QUrl>
 #include <QVariant>
 
-namespace velm
-{
+namespace velm {
 /// A page and its controller, in a form that QML takes from a QVariant.
 class VELM_EXPORT UrlAndController
 {
@@ -20,6 +19,6 @@ public:
     QUrl sourceUrl;
     QObject* controller = nullptr; // not owned
 };
-}
+} // namespace velm
 
 Q_DECLARE_METATYPE(velm::UrlAndController)

@@ -6,8 +6,7 @@
 
 #include <memory>
 
-namespace velm
-{
+namespace velm {
 /// The controller of a dialog that adds or renames an item.
 class VELM_EXPORT AddRenameDialogController : public BaseDialogController
 {
@@ -33,4 +32,4 @@ private:
     struct Pimpl;
     std::unique_ptr<Pimpl> m_pimpl;
 };
-}
+} // namespace velm

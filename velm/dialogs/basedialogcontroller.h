@@ -6,10 +6,9 @@
 
 class wxDialog;
 
-namespace velm
-{
-/// The logic of a dialog: its page talks to it, and the host asks it before the dialog closes. The host owns the window;
-/// the caller owns the controller. The host connects both signals when it builds the dialog.
+namespace velm {
+/// The logic of a dialog: its page talks to it, and the host asks it before the dialog closes. The host owns the
+/// window; the caller owns the controller. The host connects both signals when it builds the dialog.
 class VELM_EXPORT BaseDialogController : public QObject
 {
     Q_OBJECT
@@ -38,4 +37,4 @@ private:
 
     wxDialog* m_parentDialog = nullptr; // not owned
 };
-}
+} // namespace velm

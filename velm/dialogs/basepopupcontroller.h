@@ -4,8 +4,7 @@
 
 #include <QObject>
 
-namespace velm
-{
+namespace velm {
 /// The logic of a popup.
 class VELM_EXPORT BasePopupController : public QObject
 {
@@ -17,4 +16,4 @@ public:
 Q_SIGNALS:
     void closed();
 };
-}
+} // namespace velm

@@ -17,8 +17,7 @@
 class OdDbDatabase;
 class wxWindow;
 
-namespace velm
-{
+namespace velm {
 /// What the host's new-sheet dialog gives back. The sheets are not owned.
 struct VELM_EXPORT DlgNewSheetResult
 {
@@ -71,4 +70,4 @@ public:
     /// Asks for a colour; alpha is not carried. Empty when it was cancelled.
     std::optional<wxColour> dlgColor(wxWindow* parent, const wxColour& initial, unsigned flags);
 };
-}
+} // namespace velm

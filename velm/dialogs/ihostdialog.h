@@ -2,8 +2,7 @@
 
 #include "velm/velm_export.h"
 
-namespace velm
-{
+namespace velm {
 /// A dialog window of the host with a page in it. Whoever got it owns it and destroys it before its controller.
 class VELM_EXPORT IHostDialog
 {
@@ -13,4 +12,4 @@ public:
     /// Runs the dialog and gives its end code: 5100 for OK, 5101 for Cancel.
     virtual int showModal() = 0;
 };
-}
+} // namespace velm

@@ -7,8 +7,7 @@
 
 class QString;
 
-namespace velm
-{
+namespace velm {
 /// One button of a message box.
 struct MessageButtonInfo
 {
@@ -43,4 +42,4 @@ enum class EDefaultAction
 VELM_EXPORT std::vector<MessageButtonInfo> buttonsFromButtonStyle(MessageButtonStyle style);
 /// The action's translated name, or a null string.
 VELM_EXPORT QString getDefaultActionName(EDefaultAction action);
-}
+} // namespace velm

@@ -5,13 +5,11 @@
 #include <functional>
 #include <memory>
 
-namespace qwc
-{
+namespace qwc {
 class qwxDialog;
 }
 
-namespace velm
-{
+namespace velm {
 /// An exception kept as an object, since none may cross the host's modal event loop.
 class VELM_EXPORT ICppUnitException
 {
@@ -21,8 +19,8 @@ public:
     virtual void rethrow() = 0;
 };
 
-/// Lets a GUI test run code inside a modal dialog: the test makes a runner on its stack and opens the dialog, whose modal
-/// run calls run(). What the function throws comes out of the runner's destructor.
+/// Lets a GUI test run code inside a modal dialog: the test makes a runner on its stack and opens the dialog, whose
+/// modal run calls run(). What the function throws comes out of the runner's destructor.
 class VELM_EXPORT ModalRunner
 {
 public:
@@ -51,4 +49,4 @@ private:
 
 VELM_EXPORT void dlgSetGuiTesting(bool testing);
 VELM_EXPORT bool isGuiTesting();
-}
+} // namespace velm

@@ -8,8 +8,7 @@
 #include <memory>
 #include <optional>
 
-namespace velm
-{
+namespace velm {
 /// Asks for a name in a modal dialog of its own, which stays open until the caller's validator accepts the name.
 class VELM_EXPORT NameDialogController : public BaseDialogController
 {
@@ -23,8 +22,8 @@ public:
 
     ~NameDialogController() override;
 
-    /// The name, or nothing when the dialog was cancelled or there is no host. The validator must not be empty; it shows
-    /// by itself why it refuses a name.
+    /// The name, or nothing when the dialog was cancelled or there is no host. The validator must not be empty; it
+    /// shows by itself why it refuses a name.
     static std::optional<QString> launchDialog(const QString& untranslatedTitle, const QString& label,
                                                const QString& button, const QString& name, const Validator& validator);
 
@@ -46,4 +45,4 @@ private:
     struct Pimpl;
     std::unique_ptr<Pimpl> m_pimpl;
 };
-}
+} // namespace velm

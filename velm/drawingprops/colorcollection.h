@@ -6,11 +6,10 @@
 
 #include <optional>
 
-namespace velm
-{
-/// The colours that all colour combos of one GUI controller share: a fixed head of standard colours, filled at the first
-/// use, and behind it the colours that were picked. Combo flags: 1 true colours, 2 by layer and by block, 4 by layer as
-/// black, 8 none, 32 white mode.
+namespace velm {
+/// The colours that all colour combos of one GUI controller share: a fixed head of standard colours, filled at the
+/// first use, and behind it the colours that were picked. Combo flags: 1 true colours, 2 by layer and by block, 4 by
+/// layer as black, 8 none, 32 white mode.
 class VELM_EXPORT ColorCollection
 {
 public:
@@ -30,4 +29,4 @@ private:
 
     mutable OdArray<OdCmColor> m_colors;
 };
-}
+} // namespace velm

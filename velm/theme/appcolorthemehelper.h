@@ -4,10 +4,9 @@
 
 #include <memory>
 
-namespace velm
-{
-/// The theme's colours for a program that has no application object of its own: makes one, and in setUp() an engine with
-/// the configured theme as the extension of ut::ThemeColorManager.
+namespace velm {
+/// The theme's colours for a program that has no application object of its own: makes one, and in setUp() an engine
+/// with the configured theme as the extension of ut::ThemeColorManager.
 class VELM_EXPORT AppColorThemeHelper
 {
 public:
@@ -22,4 +21,4 @@ private:
     struct Pimpl;
     std::unique_ptr<Pimpl> m_pimpl;
 };
-}
+} // namespace velm

@@ -11,8 +11,7 @@
 class QApplication;
 class QQmlEngine;
 
-namespace velm
-{
+namespace velm {
 class IQtController;
 
 enum class ERefreshQml
@@ -42,4 +41,4 @@ private:
     struct Pimpl;
     std::unique_ptr<Pimpl> m_pimpl;
 };
-}
+} // namespace velm

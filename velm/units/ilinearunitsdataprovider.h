@@ -4,8 +4,7 @@
 
 #include <QString>
 
-namespace velm
-{
+namespace velm {
 /// Formats, parses and bounds one kind of value. The order of the operations is part of the interface.
 class VELM_EXPORT ILinearUnitsDataProvider
 {
@@ -20,4 +19,4 @@ public:
     virtual QString getUnitString() = 0;
     virtual bool validateValue(const QString& text) = 0;
 };
-}
+} // namespace velm

@@ -6,8 +6,7 @@
 
 #include <cstdint>
 
-namespace velm
-{
+namespace velm {
 /// The host's formatter, bound to the value that it was got for. The order of the operations is part of the interface.
 class VELM_EXPORT IUnitFormatter
 {
@@ -21,4 +20,4 @@ public:
     /// Leaves `result` alone when the text is no angle.
     virtual bool parseAngular(double* result, const wxString& text, const void* reserved, std::uint16_t flags) = 0;
 };
-}
+} // namespace velm

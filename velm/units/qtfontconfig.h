@@ -11,8 +11,7 @@
 class QJSEngine;
 class QQmlEngine;
 
-namespace velm
-{
+namespace velm {
 /// The QML singleton that tells pages how to render text on the current screen.
 class VELM_EXPORT QtFontConfig : public QObject
 {
@@ -38,4 +37,4 @@ private:
 
     static std::unique_ptr<QtFontConfig> m_pInstance;
 };
-}
+} // namespace velm

@@ -11,10 +11,10 @@ class OdApDocument;
 class QJSEngine;
 class QQmlEngine;
 
-namespace velm
-{
-/// The QML singleton of what every control must know of units and tool tips. The host pushes the values; nothing is read
-/// from a drawing here. Setters do nothing when the value is the same, otherwise they emit the one matching signal.
+namespace velm {
+/// The QML singleton of what every control must know of units and tool tips. The host pushes the values; nothing is
+/// read from a drawing here. Setters do nothing when the value is the same, otherwise they emit the one matching
+/// signal.
 class VELM_EXPORT Settings : public QObject
 {
     Q_OBJECT
@@ -52,8 +52,9 @@ public:
     QString getLinearUnitString() const;
     void setLinearUnitString(const QString& unit);
     QString getAngularUnitString() const;
-    /// 0 decimal degrees, 1 degrees, minutes and seconds, 2 grads, 3 radians, 4 surveyor's units. The unit's text follows
-    /// from it; a number outside the table keeps the text. The text's signal is emitted at every change of the type.
+    /// 0 decimal degrees, 1 degrees, minutes and seconds, 2 grads, 3 radians, 4 surveyor's units. The unit's text
+    /// follows from it; a number outside the table keeps the text. The text's signal is emitted at every change of the
+    /// type.
     void setAngularUnitType(int type);
 
 public Q_SLOTS:
@@ -80,4 +81,4 @@ private:
     struct Pimpl;
     std::unique_ptr<Pimpl> m_pimpl;
 };
-}
+} // namespace velm

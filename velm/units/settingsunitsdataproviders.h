@@ -2,9 +2,9 @@
 
 #include "velm/units/ilinearunitsdataprovider.h"
 
-namespace velm
-{
-/// Lengths by the host's formatter, else by the current drawing's, else in the C locale, as the Settings singleton says.
+namespace velm {
+/// Lengths by the host's formatter, else by the current drawing's, else in the C locale, as the Settings singleton
+/// says.
 class VELM_EXPORT SettingsLinearUnitsDataProvider : public ILinearUnitsDataProvider
 {
 public:
@@ -29,4 +29,4 @@ public:
     QString getUnitString() override;
     bool validateValue(const QString& text) override;
 };
-}
+} // namespace velm

@@ -9,8 +9,7 @@
 
 #include <vector>
 
-namespace velm
-{
+namespace velm {
 /// The library's door to the host's configuration store. It keeps no state; every call goes through.
 class VELM_EXPORT VelmConfig
 {
@@ -47,4 +46,4 @@ public:
     static void writeDialogSetting(const wxString& dialog, const wxString& setting, bool value);
     static void writeDialogSetting(const wxString& dialog, const wxString& setting, long value);
 };
-}
+} // namespace velm
