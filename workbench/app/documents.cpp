@@ -71,7 +71,7 @@ bool Documents::open(const wxString& file)
     OdApDocument* former = m_manager.curDocument();
     m_manager.open(std::make_unique<OdApDocument>(path.wc_str(), std::move(result.database)));
     m_manager.close(former);
-    log(wxString::Format(_("Opened %s: %d entities"), path, result.entityCount));
+    log(wxString::Format(_("Opened %s: %d entities"), wxFileName(path).GetFullName(), result.entityCount));
     for (const auto& [kind, count] : result.skipped)
         log(wxString::Format(_("Left out %d of the unknown kind %s"), count, wxString::FromUTF8(kind)));
     return true;

@@ -29,6 +29,20 @@ constexpr int sideWidth = 300;
 constexpr int lowerHeight = 130;
 const OdString rectKey = L"MainWindow/Rectangle";
 const OdString maximizedKey = L"MainWindow/Maximized";
+
+/// Gives the second pane of a splitter its size, in pixels, once the splitter has got a size to share: before that the
+/// position would be cut down to the little that there is.
+void placeSash(wxSplitterWindow& splitter, int size)
+{
+    splitter.Bind(wxEVT_SIZE, [&splitter, size, placed = false](wxSizeEvent& event) mutable {
+        event.Skip();
+        const bool sideBySide = splitter.GetSplitMode() == wxSPLIT_VERTICAL;
+        if (placed || (sideBySide ? event.GetSize().x : event.GetSize().y) < 2 * size)
+            return;
+        placed = true;
+        splitter.CallAfter([&splitter, size] { splitter.SetSashPosition(-size); });
+    });
+}
 } // namespace
 
 MainFrame::MainFrame(VelmSession& session, HostServices& services, PageGroup& pages)
@@ -60,11 +74,6 @@ MainFrame::MainFrame(VelmSession& session, HostServices& services, PageGroup& pa
     restoreGeometry();
     applyColours();
     documentBecameCurrent(nullptr);
-    // The parts get their places once the window has its size.
-    CallAfter([this] {
-        m_sideSplitter->SetSashPosition(-FromDIP(sideWidth));
-        m_lowerSplitter->SetSashPosition(-FromDIP(lowerHeight));
-    });
     if (!ut::Config::isWritable())
         warnOfConfiguration();
 }
@@ -100,6 +109,8 @@ void MainFrame::build()
     m_sideSplitter->SetSashGravity(1.0);
     m_sideSplitter->SplitVertically(m_lowerSplitter, m_panels);
     m_lowerSplitter->SplitHorizontally(m_canvas, m_commandLine);
+    placeSash(*m_sideSplitter, FromDIP(sideWidth));
+    placeSash(*m_lowerSplitter, FromDIP(lowerHeight));
 
     addMenus(*this, actions());
     for (PagePanel* page : m_pages.pages())

@@ -10,10 +10,9 @@ CommandLine::CommandLine(wxWindow* parent) : wxPanel(parent)
     m_log = new wxTextCtrl(this, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
                            wxTE_MULTILINE | wxTE_READONLY | wxBORDER_NONE);
     m_input = new wxTextCtrl(this, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize, wxTE_PROCESS_ENTER);
-    m_log->SetMargins(FromDIP(8), FromDIP(4));
     m_input->SetHint("Type a command");
     auto* sizer = new wxBoxSizer(wxVERTICAL);
-    sizer->Add(m_log, 1, wxEXPAND);
+    sizer->Add(m_log, 1, wxEXPAND | wxLEFT | wxTOP, FromDIP(6));
     sizer->Add(m_input, 0, wxEXPAND);
     SetSizer(sizer);
     m_input->Bind(wxEVT_TEXT_ENTER, [this](wxCommandEvent&) {

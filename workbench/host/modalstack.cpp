@@ -1,5 +1,7 @@
 #include "host/modalstack.h"
 
+#include "host/nativewindow.h"
+
 #include <wx/app.h>
 #include <wx/dialog.h>
 
@@ -44,5 +46,9 @@ void ModalStack::Exit(wxDialog* dialog)
     std::erase(m_dialogs, dialog);
     if (onChanged)
         onChanged();
+    // Not every window manager gives the keyboard back to the window below when several dialogs went at once.
+    wxWindow* below = parentFor(nullptr);
+    if (below && below->IsShownOnScreen() && !below->IsBeingDeleted())
+        native::takeKeyboard(*below);
 }
 } // namespace workbench

@@ -57,6 +57,9 @@ bool isFocusWidget(const wxWindow& window);
 void takeKeyboard(wxWindow& window);
 /// Gives the X keyboard focus to a native window inside `window`.
 void giveKeyboard(wxWindow& window, std::uintptr_t child);
+/// Whether a native window inside `window` has the X keyboard focus now, told by the server: the other toolkit hears of
+/// it later.
+bool hasKeyboard(wxWindow& window, std::uintptr_t child);
 /// Moves the focus from `window` to the next or the previous widget of its top-level window.
 void moveFocus(wxWindow& window, bool forward);
 /// Sets the colours of all of the host's own controls, as style sheet text of the toolkit.

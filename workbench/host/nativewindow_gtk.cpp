@@ -185,6 +185,17 @@ void giveKeyboard(wxWindow& window, std::uintptr_t child)
     gdk_x11_display_error_trap_pop_ignored(display);
 }
 
+bool hasKeyboard(wxWindow& window, std::uintptr_t child)
+{
+    GdkWindow* native = gtk_widget_get_window(window.GetHandle());
+    if (!native)
+        return false;
+    Window focused = 0;
+    int revertTo = 0;
+    XGetInputFocus(GDK_DISPLAY_XDISPLAY(gdk_window_get_display(native)), &focused, &revertTo);
+    return focused == child;
+}
+
 void moveFocus(wxWindow& window, bool forward)
 {
     if (GtkWidget* top = toplevelOf(window)) {

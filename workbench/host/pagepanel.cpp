@@ -7,7 +7,6 @@
 #include "velm/bridge/conversions.h"
 #include "velm/bridge/engine.h"
 
-#include <QGuiApplication>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQmlIncubationController>
@@ -62,7 +61,7 @@ PagePanel::PagePanel(wxWindow* parent, PageGroup& group, const QUrl& page, QObje
                                    [this](bool mapped) { m_view->setVisible(mapped && m_nativeParent); },
                                    [this](native::FocusRoad road) { gotFocus(road); }});
     m_focusWatcher = std::make_unique<native::FocusWidgetWatcher>(*this, [this](bool isPage) {
-        if (!isPage && QGuiApplication::focusWindow() == m_view.get())
+        if (!isPage && m_nativeParent && native::hasKeyboard(*this, m_view->winId()))
             native::takeKeyboard(*this);
     });
 }

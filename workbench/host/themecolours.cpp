@@ -46,7 +46,6 @@ entry { background-image: none; background-color: @input@; color: @text@; border
   border-radius: 3px; padding: 2px 6px; min-height: 20px; box-shadow: none; caret-color: @text@; }
 entry:focus { border-color: @focus@; box-shadow: inset 0 0 0 1px @focus@; }
 entry image, entry placeholder { color: @dim@; }
-textview { padding: 4px 8px; }
 textview, textview text { background-color: @input@; color: @secondary@; caret-color: @text@; }
 selection, *:selected:not(row):not(menuitem), entry selection, textview text selection {
   background-color: @selection@; color: @text@; }

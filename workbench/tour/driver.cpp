@@ -249,7 +249,10 @@ bool Driver::savePicture(const QString& file)
             break;
         last = next;
     }
-    return last.save(file);
+    // Of the whole screen, what the program's window covers.
+    const wxRect frame = ask([&] { return m_app.frame() ? m_app.frame()->GetScreenRect() : wxRect(); });
+    const QRect part = QRect(frame.x, frame.y, frame.width, frame.height).intersected(last.rect());
+    return (part.isEmpty() ? last : last.copy(part)).save(file);
 }
 
 void Driver::xdotool(const QStringList& arguments)

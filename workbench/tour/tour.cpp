@@ -12,6 +12,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QGuiApplication>
 #include <QTemporaryDir>
 #include <QVariant>
 
@@ -168,6 +169,7 @@ void Tour::acceptName()
     m_driver.clickItem("accept");
     m_driver.waitForNoDialog();
     m_driver.waitFor("the new name in the list", [&] { return m_driver.hasItem("layer:Toured"); });
+    m_driver.waitFor("the keyboard in the panel again", [] { return QGuiApplication::focusWindow() != nullptr; });
 }
 
 void Tour::switchTheme()
