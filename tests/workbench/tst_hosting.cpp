@@ -265,6 +265,8 @@ void HostingTest::aNameIsRefusedUntilItIsGood()
     m_driver.waitForNoDialog();
     m_driver.waitFor("the new name in the list",
                      [&] { return m_driver.hasItem("layer:Gamma") && !m_driver.hasItem("layer:Alpha"); });
+    m_driver.waitFor("the keyboard in the panel again",
+                     [] { return qobject_cast<PageView*>(QGuiApplication::focusWindow()) != nullptr; });
 }
 
 void HostingTest::aCancelledRenamingChangesNothing()
