@@ -1,8 +1,10 @@
 #pragma once
 
+#include "app/canvasmenu.h"
 #include "app/documents.h"
 #include "command/commands.h"
 #include "drawing/selection.h"
+#include "host/contextmenupopup.h"
 #include "od/odge.h"
 #include "panels/drawinginfo.h"
 #include "panels/layerscontroller.h"
@@ -70,6 +72,8 @@ private:
     LayersController m_layers;
     DrawingInfo m_drawingInfo;
     Commands m_commands;
+    CanvasMenu m_canvasMenu;
+    ContextMenuPopup m_contextMenu;
     // All owned by the window tree.
     DrawingCanvas* m_canvas = nullptr;
     CommandLine* m_commandLine = nullptr;
