@@ -75,9 +75,11 @@ void PagePopup::fitShape()
 
 void PagePopup::activeChanged()
 {
+    if (!m_isOpen)
+        return;
     if (m_view->isActive())
         m_wasActive = true;
-    else if (m_wasActive && m_isOpen)
+    else if (m_wasActive)
         Q_EMIT m_controller.closed();
 }
 
@@ -110,6 +112,6 @@ void PagePopup::applyTheme()
 
 QObject* PagePopup::find(const QString& objectName) const
 {
-    return m_view->root() ? m_view->root()->findChild<QObject*>(objectName) : nullptr;
+    return m_isOpen ? m_view->root()->findChild<QObject*>(objectName) : nullptr;
 }
 } // namespace workbench

@@ -33,7 +33,7 @@ public:
     /// Closes, and the page goes.
     void takeDown();
     void applyTheme();
-    /// An object of the page by its name, or null.
+    /// An object of the open page by its name, or null.
     QObject* find(const QString& objectName) const;
 
 private:

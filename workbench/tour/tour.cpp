@@ -128,19 +128,18 @@ void Tour::switchLayer()
     m_driver.waitFor("all entities on the canvas", [&] { return m_frame.canvas().drawnEntityCount() == before; });
 }
 
-/// On the screen, as near to the middle of the canvas as there is one.
+/// On the screen, where a menu has room within the window.
 QPoint Tour::placeOfAnEntity()
 {
     const QRect canvas = m_driver.rectOf(m_frame.canvas());
-    const QPoint middle = canvas.center() - canvas.topLeft();
+    const QPoint wanted(canvas.width() / 3, canvas.height() / 5);
     return m_driver.ask([&] {
-        QPoint nearest;
+        QPoint nearest(-canvas.width(), 0);
         for (int y = 0; y < canvas.height(); y += 4)
             for (int x = 0; x < canvas.width(); x += 4)
-                if (const QPoint place(x, y);
-                    (nearest.isNull() || (place - middle).manhattanLength() < (nearest - middle).manhattanLength()) &&
+                if ((QPoint(x, y) - wanted).manhattanLength() < (nearest - wanted).manhattanLength() &&
                     !m_frame.canvas().entityAt(wxPoint(x, y)).isNull())
-                    nearest = place;
+                    nearest = QPoint(x, y);
         return canvas.topLeft() + nearest;
     });
 }
