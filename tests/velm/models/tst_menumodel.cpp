@@ -82,12 +82,12 @@ private Q_SLOTS:
         QCOMPARE(names.value(356), "disabled");
         QCOMPARE(MenuModel().customRoleNames().size(), 9);
 
-        QStringList slots_;
+        QStringList signatures;
         const QMetaObject& metaObject = MenuModel::staticMetaObject;
         for (int index = metaObject.methodOffset(); index < metaObject.methodCount(); ++index)
-            slots_ +=
+            signatures +=
                 metaObject.method(index).methodSignature() + ' ' + metaObject.method(index).parameterNames().join(',');
-        QCOMPARE(slots_.join("; "),
+        QCOMPARE(signatures.join("; "),
                  "menuItemTriggered(QModelIndex) modelIndex; separatorCount(QModelIndex) parent; "
                  "checkableRowPresent(QModelIndex) parent; getMenuItemLabelText(QModelIndex) modelIndex");
     }
