@@ -30,8 +30,8 @@ FocusScope {
     }
 
     // The model doesn't tell of it, but the handler may have changed other rows or this one.
-    function commit(row: int, value) {
-        model.valueChanged(value, row);
+    function commit(source, row: int, value) {
+        source?.valueChanged(value, row);
         repeater.itemAt(row)?.refresh();
     }
 

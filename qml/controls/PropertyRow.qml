@@ -11,6 +11,8 @@ FocusScope {
 
     required property int index
     property var list
+    // The list may show another model by the time that this row gives up the keyboard with a text to tell.
+    property var source: null
     // What the model says of the property: read anew when it tells of a change.
     property var entry: list.read(index)
     readonly property real wantedLabelWidth: label.implicitWidth
@@ -22,7 +24,7 @@ FocusScope {
 
     function commit(value) {
         if (value !== entry.value)
-            list.commit(index, value);
+            list.commit(source, index, value);
     }
 
     // The text in the type that the property has.
@@ -35,7 +37,10 @@ FocusScope {
             refresh();
     }
 
+    objectName: "property:" + entry.label
     implicitHeight: Math.max(Metrics.rowHeight, editor.implicitHeight)
+
+    Component.onCompleted: source = list.model
 
     HoverHandler {
         id: hover

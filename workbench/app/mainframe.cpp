@@ -53,7 +53,8 @@ MainFrame::MainFrame(VelmSession& session, HostServices& services, PageGroup& pa
     : wxFrame(nullptr, wxID_ANY, "velm workbench", wxDefaultPosition, wxSize(1100, 720)), m_session(session),
       m_services(services), m_pages(pages), m_documents(services.documents(), services.dialogs(), pages),
       m_selection(services.documents()), m_layers(services.documents(), services.dialogs()),
-      m_drawingInfo(services.documents()), m_drawingPanels(services.documents(), m_selection)
+      m_drawingInfo(services.documents()), m_drawingPanels(services.documents(), m_selection),
+      m_canvasMenu(services.documents(), m_selection), m_contextMenu(pages, *this, m_canvasMenu)
 {
     build();
     addCommands();
@@ -182,13 +183,21 @@ void MainFrame::addCommands()
 void MainFrame::connectCanvas()
 {
     m_canvas->onCursorMoved = [this](const OdGePoint3d& point) { showCursor(point); };
-    m_canvas->onPicked = [this](OdDbObjectId entity) {
-        m_selection.set(entity);
+    m_canvas->onPicked = [this](OdDbObjectId entity) { m_selection.set(entity); };
+    m_canvas->Bind(wxEVT_LEFT_UP, [this](wxMouseEvent& event) {
         // What is typed next is a command.
         m_commandLine->input()->SetFocus();
-    };
+        event.Skip();
+    });
     QObject::connect(&m_selection, &Selection::changed, &m_selection,
                      [this] { m_canvas->setHighlighted(m_selection.current()); });
+    m_canvas->onMenuWanted = [this] { m_contextMenu.open(); };
+    m_canvasMenu.isGridShown = [this] { return m_canvas->isGridShown(); };
+    m_canvasMenu.isSnapping = [this] { return m_canvas->isSnapping(); };
+    // Once the menu is closed: a command may open a dialog or take the pages down.
+    m_canvasMenu.run = [this](const wxString& line) {
+        CallAfter([this, line] { m_commandLine->processCommand(line); });
+    };
 }
 
 void MainFrame::tryPage(const wxString& file)

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "app/canvasmenu.h"
 #include "app/documents.h"
 #include "app/drawingpanels.h"
 #include "command/commands.h"
 #include "drawing/selection.h"
+#include "host/contextmenupopup.h"
 #include "od/odge.h"
 #include "panels/drawinginfo.h"
 #include "panels/layerscontroller.h"
@@ -79,6 +81,8 @@ private:
     DrawingInfo m_drawingInfo;
     DrawingPanels m_drawingPanels;
     Commands m_commands;
+    CanvasMenu m_canvasMenu;
+    ContextMenuPopup m_contextMenu;
     // All owned by the window tree.
     DrawingCanvas* m_canvas = nullptr;
     CommandLine* m_commandLine = nullptr;

@@ -149,7 +149,7 @@ void DrawingCanvas::paint()
     dc.SetBackground(wxBrush(colour));
     dc.Clear();
     const std::unique_ptr<wxGraphicsContext> context(wxGraphicsContext::Create(dc));
-    if (m_isGridShown)
+    if (m_isGridShown && m_database)
         paintGrid(*context, m_view, colour);
     m_drawnEntityCount = DrawingPainter(*context, m_view, colour).paint(m_tessellation);
     if (m_database && !m_highlighted.isNull()) {

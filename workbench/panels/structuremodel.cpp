@@ -212,9 +212,9 @@ QString StructureModel::text(const StructureRow& row)
 
 QString StructureModel::mark(const StructureRow& row)
 {
-    return row.kind == Kind::Entity ? QStringLiteral("edit")
-           : row.kind == Kind::More ? QStringLiteral("more")
-                                    : QStringLiteral("folder");
+    if (row.kind == Kind::Entity)
+        return {};
+    return row.kind == Kind::More ? QStringLiteral("more") : QStringLiteral("folder");
 }
 
 bool StructureModel::isHidden(const StructureRow& row)
