@@ -37,6 +37,11 @@ FocusScope {
             refresh();
     }
 
+    // To call when the row is about to go: a text that is still being typed is told.
+    function finish() {
+        loader.item?.finish?.();
+    }
+
     objectName: "property:" + entry.label
     implicitHeight: Math.max(Metrics.rowHeight, editor.implicitHeight)
 
@@ -65,6 +70,8 @@ FocusScope {
         spacing: 4
 
         Loader {
+            id: loader
+
             Layout.fillWidth: true
             sourceComponent: {
                 switch (row.entry.kind) {
@@ -154,10 +161,15 @@ FocusScope {
                 cursorPosition = 0;
             }
 
-            function finish(event) {
+            function finish() {
+                if (text !== stored)
+                    row.commitText(text);
+            }
+
+            function enter(event) {
                 // Without a change Enter is the dialog's.
                 event.accepted = text !== stored;
-                row.commitText(text);
+                finish();
             }
 
             objectName: "editor"
@@ -165,11 +177,11 @@ FocusScope {
             Accessible.name: row.entry.label
             Component.onCompleted: show()
             onActiveFocusChanged: {
-                if (!activeFocus && text !== stored)
-                    row.commitText(text);
+                if (!activeFocus)
+                    finish();
             }
-            Keys.onReturnPressed: event => finish(event)
-            Keys.onEnterPressed: event => finish(event)
+            Keys.onReturnPressed: event => enter(event)
+            Keys.onEnterPressed: event => enter(event)
             Keys.onEscapePressed: event => {
                 event.accepted = text !== stored;
                 show();

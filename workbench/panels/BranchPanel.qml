@@ -16,7 +16,10 @@ PanelPage {
         anchors.fill: parent
         spacing: Metrics.spacing
 
-        RowLayout {
+        // No layout: it would still ask for the sizes of crumbs that are gone.
+        Row {
+            id: way
+
             Layout.fillWidth: true
             spacing: 2
 
@@ -30,18 +33,16 @@ PanelPage {
             Repeater {
                 model: page.crumbs
 
-                RowLayout {
+                Row {
                     id: crumb
 
                     required property int index
                     required property string modelData
                     readonly property bool isLast: index === page.crumbs.length - 1
 
-                    Layout.fillWidth: isLast
-                    spacing: 0
-
                     Mark {
                         visible: crumb.index > 0
+                        anchors.verticalCenter: parent.verticalCenter
                         name: "chevron-right"
                         color: Colors.textSecondary
                     }
@@ -54,12 +55,15 @@ PanelPage {
                         onClicked: page.controller.goTo(crumb.index)
                     }
                     Label {
-                        Layout.fillWidth: true
-                        Layout.leftMargin: Metrics.padding
+                        width: Math.max(0, Math.min(implicitWidth, way.width - crumb.x - x))
+                        height: Metrics.controlHeight
                         visible: crumb.isLast
+                        leftPadding: Metrics.padding
                         text: crumb.modelData
+                        textFormat: Text.PlainText
                         font.bold: true
                         elide: Text.ElideRight
+                        verticalAlignment: Text.AlignVCenter
                     }
                 }
             }

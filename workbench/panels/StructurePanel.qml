@@ -20,6 +20,12 @@ PanelPage {
             title: qsTr("Structure")
             menuModel: page.controller.menu
         }
+        SplitButton {
+            objectName: "actions"
+            Layout.fillWidth: true
+            enabled: page.controller.hasDrawing
+            model: page.controller.actions
+        }
         Item {
             Layout.fillWidth: true
             Layout.fillHeight: true
@@ -51,12 +57,6 @@ PanelPage {
                 mark: "folder"
                 text: qsTr("Open a drawing to see its structure.")
             }
-        }
-        SplitButton {
-            objectName: "actions"
-            Layout.alignment: Qt.AlignRight
-            enabled: page.controller.hasDrawing
-            model: page.controller.actions
         }
     }
 }

@@ -249,4 +249,9 @@ QHash<int, QByteArray> StructureModel::customRoleNames() const
 {
     return {{MarkRole, "mark"}, {CountRole, "count"}, {HasChildrenRole, "hasChildren"}};
 }
+
+unsigned long long StructureModel::rowContentId(const QModelIndex& index) const
+{
+    return rowCount(index) > 0 ? TreeModel::rowContentId(index) : 0;
+}
 } // namespace workbench

@@ -52,8 +52,8 @@ PanelTour::Spot PanelTour::findSpot()
     const QRect canvas = m_driver.rectOf(m_frame.canvas());
     const Spot spot = m_driver.ask([&] {
         const OdDbObjectId current = m_frame.selection().current();
-        for (int y = canvas.height() / 2; y < canvas.height(); y += 2)
-            for (int x = 0; x < canvas.width(); x += 2) {
+        for (int y = canvas.height() * 3 / 5; y < canvas.height(); y += 2)
+            for (int x = canvas.width() / 3; x < canvas.width(); x += 2) {
                 const OdDbObjectId entity = m_frame.canvas().entityAt(wxPoint(x, y));
                 if (!entity.isNull() && entity != current && !entity.open<OdDbBlockReference>())
                     return Spot{entity, canvas.topLeft() + QPoint(x, y)};
@@ -78,6 +78,7 @@ int PanelTour::countPixels(QRgb colour)
 void PanelTour::showStructure()
 {
     showPanel("Structure");
+    showPanel("Properties");
     m_driver.clickItem("structure");
     m_driver.waitFor("the keyboard in the tree", [&] { return m_driver.itemHasFocus("structure"); });
     // Down into the group of layouts, the model space, and to its first entity.
@@ -125,8 +126,8 @@ void PanelTour::useSplitButton()
 
 void PanelTour::editProperty()
 {
-    constexpr QRgb green = qRgb(0, 255, 0);
-    constexpr int greenIndex = 3;
+    constexpr QRgb magenta = qRgb(255, 0, 255);
+    constexpr int magentaIndex = 6;
     m_driver.command("ZOOM");
     const OdDbObjectId id = selected();
     check(!id.isNull(), "an entity is still selected");
@@ -136,21 +137,22 @@ void PanelTour::editProperty()
             if (list->data(list->index(row), PropertiesListModel::LabelRole) == "Colour")
                 return static_cast<int>(list->data(list->index(row), PropertiesListModel::ChoicesRole)
                                             .toStringList()
-                                            .indexOf("Green")) -
+                                            .indexOf("Magenta")) -
                        list->data(list->index(row), PropertiesListModel::ValueRole).toInt();
         return 0;
     });
     m_driver.clickItem("property:Colour");
     m_save("colours-to-choose");
+    // The mouse lies over the choices; without them the arrows go through all in turn.
+    m_driver.key("Escape");
     for (int step = 0; step < std::abs(wanted); ++step)
         m_driver.key(wanted > 0 ? "Down" : "Up");
-    m_driver.key("Return");
     m_driver.waitFor("the colour in the drawing",
-                     [&] { return id.open<OdDbEntity>()->color() == OdCmColor::fromIndex(greenIndex); });
+                     [&] { return id.open<OdDbEntity>()->color() == OdCmColor::fromIndex(magentaIndex); });
     // It shows once it isn't lit up any more.
-    const int before = countPixels(green);
+    const int before = countPixels(magenta);
     m_driver.ask([&] { m_frame.selection().clear(); });
-    m_driver.waitFor("the colour on the canvas", [&] { return countPixels(green) > before; });
+    m_driver.waitFor("the colour on the canvas", [&] { return countPixels(magenta) > before; });
     check(m_driver.hasItem("noProperties"), "no properties are shown without a selection");
 }
 
