@@ -1,6 +1,7 @@
 #include "tour/paneltour.h"
 
 #include "app/mainframe.h"
+#include "app/velmsession.h"
 #include "app/workbenchapp.h"
 #include "command/commandline.h"
 #include "drawing/drawingcanvas.h"
@@ -99,6 +100,9 @@ void PanelTour::pickOnCanvas()
                      [&] { return m_driver.property("structure", "currentRow").toInt() >= 0; });
     check(m_driver.ask([&] { return m_frame.properties().object(); }) == spot.entity,
           "the properties are those of the picked entity");
+    m_driver.ask([&] { m_frame.session().setTheme(ut::EGuiColorTheme::Light); });
+    m_save("picked-on-canvas-light");
+    m_driver.ask([&] { m_frame.session().setTheme(ut::EGuiColorTheme::Dark); });
 }
 
 void PanelTour::useTitleMenu()
