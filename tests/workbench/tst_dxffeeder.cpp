@@ -22,7 +22,6 @@ void DxfFeederTest::leftoversInMemoryAddNoEntity_data()
     QTest::addColumn<int>("leftover");
     QTest::newRow("that look like a point") << DL_ENTITY_POINT;
     QTest::newRow("that look like a line") << DL_ENTITY_LINE;
-    QTest::newRow("that look like a layer") << DL_LAYER;
 }
 
 void DxfFeederTest::leftoversInMemoryAddNoEntity()

@@ -17,7 +17,7 @@ ItemDelegate {
     required property bool locked
     required property var owner
 
-    signal toggled(bool on)
+    signal switched(bool on)
 
     objectName: "layer:" + name
     width: ListView.view ? ListView.view.width : implicitWidth
@@ -41,7 +41,7 @@ ItemDelegate {
             checked: row.on
             padding: 0
             Accessible.name: qsTr("Show layer %1").arg(row.name)
-            onToggled: row.toggled(checked)
+            onToggled: row.switched(checked)
         }
         ColorSwatch {
             color: row.layerColor

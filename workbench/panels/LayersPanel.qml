@@ -45,7 +45,7 @@ PanelPage {
                 onActivated: page.controller.renameCurrent()
                 delegate: LayerRow {
                     owner: list
-                    onToggled: on => page.controller.setOn(index, on)
+                    onSwitched: on => page.controller.setOn(index, on)
                 }
                 Component.onCompleted: {
                     currentIndex = page.controller.currentRow;
