@@ -30,9 +30,10 @@ FocusScope {
     }
 
     // The model doesn't tell of it, but the handler may have changed other rows or this one.
-    function commit(row: int, value) {
-        model.valueChanged(value, row);
-        repeater.itemAt(row)?.refresh();
+    function commit(source, row: int, value) {
+        source?.valueChanged(value, row);
+        if (source === model)
+            repeater.itemAt(row)?.refresh();
     }
 
     function itemAt(row: int): Item {
@@ -105,7 +106,10 @@ FocusScope {
                 }
                 // qmllint enable unqualified
                 onItemAdded: control.measure()
-                onItemRemoved: control.measure()
+                onItemRemoved: (index, item) => {
+                    (item as PropertyRow)?.finish();
+                    control.measure();
+                }
             }
         }
     }

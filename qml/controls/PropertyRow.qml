@@ -11,6 +11,8 @@ FocusScope {
 
     required property int index
     property var list
+    // The list may show another model by the time that this row gives up the keyboard with a text to tell.
+    property var source: null
     // What the model says of the property: read anew when it tells of a change.
     property var entry: list.read(index)
     readonly property real wantedLabelWidth: label.implicitWidth
@@ -22,7 +24,7 @@ FocusScope {
 
     function commit(value) {
         if (value !== entry.value)
-            list.commit(index, value);
+            list.commit(source, index, value);
     }
 
     // The text in the type that the property has.
@@ -35,7 +37,15 @@ FocusScope {
             refresh();
     }
 
+    // To call when the row is about to go: a text that is still being typed is told.
+    function finish() {
+        loader.item?.finish?.();
+    }
+
+    objectName: "property:" + entry.label
     implicitHeight: Math.max(Metrics.rowHeight, editor.implicitHeight)
+
+    Component.onCompleted: source = list.model
 
     HoverHandler {
         id: hover
@@ -60,6 +70,8 @@ FocusScope {
         spacing: 4
 
         Loader {
+            id: loader
+
             Layout.fillWidth: true
             sourceComponent: {
                 switch (row.entry.kind) {
@@ -149,10 +161,15 @@ FocusScope {
                 cursorPosition = 0;
             }
 
-            function finish(event) {
+            function finish() {
+                if (text !== stored)
+                    row.commitText(text);
+            }
+
+            function enter(event) {
                 // Without a change Enter is the dialog's.
                 event.accepted = text !== stored;
-                row.commitText(text);
+                finish();
             }
 
             objectName: "editor"
@@ -160,11 +177,11 @@ FocusScope {
             Accessible.name: row.entry.label
             Component.onCompleted: show()
             onActiveFocusChanged: {
-                if (!activeFocus && text !== stored)
-                    row.commitText(text);
+                if (!activeFocus)
+                    finish();
             }
-            Keys.onReturnPressed: event => finish(event)
-            Keys.onEnterPressed: event => finish(event)
+            Keys.onReturnPressed: event => enter(event)
+            Keys.onEnterPressed: event => enter(event)
             Keys.onEscapePressed: event => {
                 event.accepted = text !== stored;
                 show();

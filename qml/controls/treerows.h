@@ -29,6 +29,7 @@ public:
         OpenRole,
         BranchRole,
     };
+    Q_ENUM(Role)
 
     explicit TreeRows(QObject* parent = nullptr);
     ~TreeRows() override;

@@ -43,5 +43,6 @@ T.TextField {
     background: FieldSurface {
         control: control
         hovered: control.hovered
+        readOnly: control.readOnly
     }
 }

@@ -315,12 +315,12 @@ Rectangle {
         return m_driver.hasItem("turning") && m_driver.property("turning", "frames").toInt() > 10;
     });
     if (way == "server") {
-        const auto window = m_driver.ask([&] { return m_frame.panel(2)->view()->parent()->winId(); });
+        const auto window = m_driver.ask([&] { return m_frame.panel(3)->view()->parent()->winId(); });
         QCOMPARE(QProcess::execute("xdotool", {"windowclose", QString::number(window)}), 0);
-        m_driver.waitFor("the page without a window", [&] { return !m_frame.panel(2)->view()->handle(); });
+        m_driver.waitFor("the page without a window", [&] { return !m_frame.panel(3)->view()->handle(); });
     }
     m_driver.command("PAGE");
-    m_driver.waitFor("two panels", [&] { return m_frame.panels().GetPageCount() == 2; });
+    m_driver.waitFor("the page to go", [&] { return m_frame.panels().GetPageCount() == 3; });
     // The others live on.
     m_driver.ask([&] { m_frame.panels().SetSelection(0); });
     m_driver.clickItem("layer:Beta");

@@ -46,7 +46,13 @@ void setCurrentLayer(MainFrame& frame, const wxString& name)
 void addDrawingCommands(Commands& commands, MainFrame& frame)
 {
     const auto log = [&frame](const wxString& text) { frame.commandLine().log(text); };
-    commands.add("ZOOM", _("Shows the whole drawing"), [&frame](const wxString&) { frame.canvas().zoomExtents(); });
+    commands.add("ZOOM", _("Shows the whole drawing, or what is selected: ZOOM, or ZOOM SELECTION"),
+                 [&frame, log](const wxString& what) {
+                     if (!what.IsSameAs("SELECTION", false))
+                         frame.canvas().zoomExtents();
+                     else if (!frame.canvas().zoomTo(frame.selection().current()))
+                         log(_("Nothing that the canvas shows is selected."));
+                 });
     commands.add("GRID", _("Shows or hides a grid on the drawing"), [&frame, log](const wxString&) {
         DrawingCanvas& canvas = frame.canvas();
         canvas.showGrid(!canvas.isGridShown());

@@ -4,6 +4,7 @@
 #include "app/framecommands.h"
 #include "app/framemenu.h"
 #include "app/hostservices.h"
+#include "app/layercommands.h"
 #include "app/velmsession.h"
 #include "command/commandline.h"
 #include "drawing/drawingcanvas.h"
@@ -29,6 +30,7 @@ namespace workbench {
 namespace {
 constexpr int sideWidth = 300;
 constexpr int lowerHeight = 130;
+constexpr int lowerPanelsHeight = 290;
 const OdString rectKey = L"MainWindow/Rectangle";
 const OdString maximizedKey = L"MainWindow/Maximized";
 
@@ -51,8 +53,8 @@ MainFrame::MainFrame(VelmSession& session, HostServices& services, PageGroup& pa
     : wxFrame(nullptr, wxID_ANY, "velm workbench", wxDefaultPosition, wxSize(1100, 720)), m_session(session),
       m_services(services), m_pages(pages), m_documents(services.documents(), services.dialogs(), pages),
       m_selection(services.documents()), m_layers(services.documents(), services.dialogs()),
-      m_drawingInfo(services.documents()), m_canvasMenu(services.documents(), m_selection),
-      m_contextMenu(pages, *this, m_canvasMenu)
+      m_drawingInfo(services.documents()), m_drawingPanels(services.documents(), m_selection),
+      m_canvasMenu(services.documents(), m_selection), m_contextMenu(pages, *this, m_canvasMenu)
 {
     build();
     addCommands();
@@ -60,7 +62,12 @@ MainFrame::MainFrame(VelmSession& session, HostServices& services, PageGroup& pa
     m_services.setCommandLine(m_commandLine);
     m_services.documents().addReactor(this);
     m_documents.log = [this](const wxString& line) { m_commandLine->log(line); };
-    m_layers.onLayersChanged = [this] { m_canvas->refreshDrawing(); };
+    m_layers.onLayersChanged = [this] { drawingChanged(); };
+    properties().onEdited = [this] { drawingChanged(); };
+    structure().onBranchWanted = [this](const QModelIndex& index) {
+        branch().show(index);
+        showPanel(_("Branch"));
+    };
     m_session.onThemeChanged = [this] { applyColours(); };
     m_session.onRebuilt = [this] {
         pushUnits();
@@ -90,6 +97,9 @@ MainFrame::~MainFrame()
     m_session.onThemeChanged = nullptr;
     m_session.onRebuilt = nullptr;
     m_canvas->setDatabase(nullptr);
+    // A page that goes may still tell something.
+    properties().onEdited = nullptr;
+    m_selection.disconnect();
     // The pages go before the controllers that they show, which are members.
     DestroyChildren();
 }
@@ -104,18 +114,28 @@ void MainFrame::build()
     m_canvas->background = [] { return wxGuiColour(ut::EGuiColor::Grey0); };
     m_canvas->accent = [] { return wxGuiColour(ut::EGuiColor::BlueHighlight); };
     m_commandLine = new CommandLine(m_lowerSplitter);
-    m_panels = new wxNotebook(m_sideSplitter, wxID_ANY);
-    addPanel("Workbench/LayersPanel.qml", &m_layers, _("Layers"));
-    addPanel("Workbench/DrawingPanel.qml", &m_drawingInfo, _("Drawing"));
+    m_panelSplitter = new wxSplitterWindow(m_sideSplitter, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+                                           wxSP_LIVE_UPDATE | wxSP_NOBORDER);
+    m_panels = new wxNotebook(m_panelSplitter, wxID_ANY);
+    addPanel(m_panels, "Workbench/LayersPanel.qml", &m_layers, _("Layers"));
+    addPanel(m_panels, "Workbench/StructurePanel.qml", &structure(), _("Structure"));
+    addPanel(m_panels, "Workbench/BranchPanel.qml", &branch(), _("Branch"));
+    m_lowerPanels = new wxNotebook(m_panelSplitter, wxID_ANY);
+    addPanel(m_lowerPanels, "Workbench/PropertiesPanel.qml", &properties(), _("Properties"));
+    addPanel(m_lowerPanels, "Workbench/DrawingPanel.qml", &m_drawingInfo, _("Drawing"));
 
     m_lowerSplitter->SetMinimumPaneSize(FromDIP(90));
     m_lowerSplitter->SetSashGravity(1.0);
     m_sideSplitter->SetMinimumPaneSize(FromDIP(200));
     m_sideSplitter->SetSashGravity(1.0);
-    m_sideSplitter->SplitVertically(m_lowerSplitter, m_panels);
+    m_panelSplitter->SetMinimumPaneSize(FromDIP(120));
+    m_panelSplitter->SetSashGravity(1.0);
+    m_sideSplitter->SplitVertically(m_lowerSplitter, m_panelSplitter);
+    m_panelSplitter->SplitHorizontally(m_panels, m_lowerPanels);
     m_lowerSplitter->SplitHorizontally(m_canvas, m_commandLine);
     placeSash(*m_sideSplitter, FromDIP(sideWidth));
     placeSash(*m_lowerSplitter, FromDIP(lowerHeight));
+    placeSash(*m_panelSplitter, FromDIP(lowerPanelsHeight));
 
     addMenus(*this, frameActions(*this));
     for (PagePanel* page : m_pages.pages())
@@ -125,13 +145,13 @@ void MainFrame::build()
     SetStatusWidths(3, widths);
 }
 
-PagePanel* MainFrame::addPanel(const QString& page, QObject* controller, const wxString& title)
+PagePanel* MainFrame::addPanel(wxNotebook* notebook, const QString& page, QObject* controller, const wxString& title)
 {
     const QUrl url = QDir::isAbsolutePath(page) ? QUrl::fromLocalFile(page) : velm::getUIFullUrl(page);
-    auto* panel = new PagePanel(m_panels, m_pages, url, controller);
+    auto* panel = new PagePanel(notebook, m_pages, url, controller);
     if (GetMenuBar())
         panel->setAcceleratorTable(shortcuts(*GetMenuBar()));
-    m_panels->AddPage(panel, title);
+    notebook->AddPage(panel, title);
     return panel;
 }
 
@@ -140,10 +160,19 @@ PagePanel* MainFrame::panel(int tab) const
     return dynamic_cast<PagePanel*>(m_panels->GetPage(static_cast<size_t>(tab)));
 }
 
+void MainFrame::showPanel(const wxString& title)
+{
+    for (wxNotebook* notebook : {m_panels, m_lowerPanels})
+        for (size_t tab = 0; tab < notebook->GetPageCount(); ++tab)
+            if (notebook->GetPageText(tab) == title)
+                notebook->SetSelection(tab);
+}
+
 void MainFrame::addCommands()
 {
     addFrameCommands(m_commands, *this);
     addDrawingCommands(m_commands, *this);
+    addLayerCommands(m_commands, *this);
     m_commandLine->onCommand = [this](const wxString& line) {
         if (!m_commands.run(line))
             m_commandLine->log(wxString::Format(_("Unknown command: %s. HELP lists the commands."), line));
@@ -181,7 +210,7 @@ void MainFrame::tryPage(const wxString& file)
         return;
     wxFileName name(file);
     name.MakeAbsolute();
-    m_triedPage = addPanel(velm::toQt(name.GetFullPath()), nullptr, name.GetFullName());
+    m_triedPage = addPanel(m_panels, velm::toQt(name.GetFullPath()), nullptr, name.GetFullName());
     m_panels->SetSelection(m_panels->GetPageCount() - 1);
     if (!m_triedPage->error().isEmpty())
         m_commandLine->log(velm::wxFromQt(m_triedPage->error()));
@@ -213,7 +242,9 @@ void MainFrame::documentBecameCurrent(OdApDocument* document)
 void MainFrame::drawingChanged()
 {
     m_canvas->refreshDrawing();
+    m_layers.refresh();
     m_drawingInfo.refresh();
+    m_drawingPanels.refresh();
     showState();
 }
 

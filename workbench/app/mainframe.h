@@ -2,6 +2,7 @@
 
 #include "app/canvasmenu.h"
 #include "app/documents.h"
+#include "app/drawingpanels.h"
 #include "command/commands.h"
 #include "drawing/selection.h"
 #include "host/contextmenupopup.h"
@@ -44,15 +45,22 @@ public:
     DrawingCanvas& canvas() { return *m_canvas; }
     CommandLine& commandLine() { return *m_commandLine; }
     LayersController& layers() { return m_layers; }
+    StructureController& structure() { return m_drawingPanels.structure; }
+    BranchController& branch() { return m_drawingPanels.branch; }
+    PropertiesController& properties() { return m_drawingPanels.properties; }
     wxNotebook& panels() { return *m_panels; }
+    /// Those below, which are seen beside the others.
+    wxNotebook& lowerPanels() { return *m_lowerPanels; }
     /// The page of a tab.
     PagePanel* panel(int tab) const;
+    /// Brings the tab of this title to the front.
+    void showPanel(const wxString& title);
 
 private:
     void build();
     void addCommands();
     void connectCanvas();
-    PagePanel* addPanel(const QString& page, QObject* controller, const wxString& title);
+    PagePanel* addPanel(wxNotebook* notebook, const QString& page, QObject* controller, const wxString& title);
     void pushUnits();
     void applyColours();
     void showCursor(const OdGePoint3d& point);
@@ -71,6 +79,7 @@ private:
     Selection m_selection;
     LayersController m_layers;
     DrawingInfo m_drawingInfo;
+    DrawingPanels m_drawingPanels;
     Commands m_commands;
     CanvasMenu m_canvasMenu;
     ContextMenuPopup m_contextMenu;
@@ -78,8 +87,10 @@ private:
     DrawingCanvas* m_canvas = nullptr;
     CommandLine* m_commandLine = nullptr;
     wxNotebook* m_panels = nullptr;
+    wxNotebook* m_lowerPanels = nullptr;
     wxSplitterWindow* m_sideSplitter = nullptr;
     wxSplitterWindow* m_lowerSplitter = nullptr;
+    wxSplitterWindow* m_panelSplitter = nullptr;
     PagePanel* m_triedPage = nullptr;
 };
 } // namespace workbench

@@ -68,12 +68,25 @@ void DrawingCanvas::zoomExtents()
     Refresh();
 }
 
-void DrawingCanvas::fit()
+bool DrawingCanvas::zoomTo(OdDbObjectId entity)
+{
+    Box box;
+    for (const Piece& piece : m_tessellation.pieces)
+        if (m_database->modelSpace()->entities()[piece.entity] == entity)
+            box.add(piece.box);
+    if (box.isEmpty())
+        return false;
+    m_isFitted = false;
+    fit(box);
+    Refresh();
+    return true;
+}
+
+void DrawingCanvas::fit(const Box& box)
 {
     constexpr double filled = 0.92;         // of the canvas
     constexpr double smallestExtent = 10.0; // units, for drawings that are all in one place
     m_view.size = GetClientSize();
-    const Box& box = m_tessellation.box;
     m_view.center =
         box.isEmpty() ? OdGePoint3d() : OdGePoint3d{(box.left + box.right) / 2.0, (box.bottom + box.top) / 2.0, 0.0};
     double width = box.isEmpty() ? 0.0 : box.right - box.left;

@@ -24,6 +24,8 @@ public:
     void refreshDrawing();
 
     void zoomExtents();
+    /// False, with nothing changed, when nothing of the entity is drawn.
+    bool zoomTo(OdDbObjectId entity);
     /// The point of the drawing at `center`, in pixels, stays where it is.
     void zoomBy(double factor, wxPoint center);
     void panBy(wxPoint pixels);
@@ -51,7 +53,8 @@ public:
     std::function<wxColour()> accent;                      ///< the selected entity's, asked at each paint
 
 private:
-    void fit();
+    void fit() { fit(m_tessellation.box); }
+    void fit(const Box& box);
     void paint();
     void trackMouse(wxMouseEvent& event);
     void pickAt(wxPoint position);

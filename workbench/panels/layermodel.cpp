@@ -32,9 +32,10 @@ void LayerModel::setDarkBackground(bool dark)
         Q_EMIT dataChanged(index(0), index(rowCount() - 1), {ColorRole});
 }
 
-void LayerModel::layerChanged(int row)
+void LayerModel::layersChanged()
 {
-    Q_EMIT dataChanged(index(row), index(row));
+    if (!m_layers.empty())
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1));
 }
 
 int LayerModel::rowCount(const QModelIndex& parent) const

@@ -35,8 +35,8 @@ public:
     OdDbLayerTableRecord* layer(int row) const;
     /// The standard colour is white on a dark background and black on a light one.
     void setDarkBackground(bool dark);
-    /// To call after a change of the layer of a row.
-    void layerChanged(int row);
+    /// To call after a change of layers.
+    void layersChanged();
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;

@@ -55,7 +55,18 @@ void LayersController::setOn(int row, bool on)
     if (!layer || layer->isOff() != on)
         return;
     layer->setIsOff(!on);
-    m_model.layerChanged(sourceRow(row));
+    tellOfChange();
+}
+
+void LayersController::refresh()
+{
+    m_model.layersChanged();
+    Q_EMIT currentRowChanged();
+}
+
+void LayersController::tellOfChange()
+{
+    refresh();
     if (onLayersChanged)
         onLayersChanged();
 }
@@ -102,7 +113,6 @@ void LayersController::renameCurrent()
     if (!name || !index.isValid() || !layer)
         return;
     m_model.database()->rename(*layer, velm::odFromQt(name->trimmed()));
-    m_model.layerChanged(index.row());
-    Q_EMIT currentRowChanged();
+    tellOfChange();
 }
 } // namespace workbench

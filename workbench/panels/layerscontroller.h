@@ -32,7 +32,10 @@ public:
 
     void setDarkBackground(bool dark) { m_model.setDarkBackground(dark); }
 
-    std::function<void()> onLayersChanged; ///< the drawing looks different now
+    /// To call after a change of layers from elsewhere.
+    void refresh();
+
+    std::function<void()> onLayersChanged; ///< layers are other than they were
 
 public Q_SLOTS:
     void setOn(int row, bool on);
@@ -48,6 +51,7 @@ Q_SIGNALS:
 private:
     void documentBecameCurrent(OdApDocument* document) override;
     int sourceRow(int row) const;
+    void tellOfChange();
     /// What is wrong with a name for the layer of a source row; empty when it may be given.
     QString nameProblem(const QString& name, int row) const;
 

@@ -8,6 +8,7 @@
 #include "host/pagepanel.h"
 #include "od/oddbdatabase.h"
 #include "tour/driver.h"
+#include "tour/paneltour.h"
 #include "velm/bridge/conversions.h"
 
 #include <QDir>
@@ -19,6 +20,7 @@
 #include <wx/notebook.h>
 
 #include <cstdio>
+#include <functional>
 
 namespace workbench {
 namespace {
@@ -35,7 +37,10 @@ constexpr const char* smallDrawing = "0\nSECTION\n2\nTABLES\n0\nTABLE\n2\nLAYER\
 class Tour
 {
 public:
-    Tour(WorkbenchApp& app, const QString& folder) : m_driver(app), m_frame(*app.frame()), m_folder(folder) {}
+    Tour(WorkbenchApp& app, const QString& folder)
+        : m_driver(app), m_frame(*app.frame()), m_folder(folder),
+          m_panelTour(m_driver, [this](const QString& name) { save(name); })
+    {}
 
     int run(bool hasDrawing);
 
@@ -44,7 +49,7 @@ private:
     void save(const QString& name);
     QString write(const QString& name, const QByteArray& text);
     void waitForLog(const QString& text);
-    void showTab(int tab);
+    void showPanel(const char* title);
     QString layerName(int row);
     QPoint placeOfAnEntity();
 
@@ -65,6 +70,7 @@ private:
     Driver m_driver;
     MainFrame& m_frame;
     QString m_folder;
+    PanelTour m_panelTour;
     QTemporaryDir m_scratch;
     bool m_hasDrawing = false;
     int m_step = 0;
@@ -97,9 +103,9 @@ void Tour::waitForLog(const QString& text)
                      [&] { return velm::toQt(m_frame.commandLine().logText()).contains(text); });
 }
 
-void Tour::showTab(int tab)
+void Tour::showPanel(const char* title)
 {
-    m_driver.ask([&] { m_frame.panels().SetSelection(static_cast<size_t>(tab)); });
+    m_driver.ask([&] { m_frame.showPanel(title); });
 }
 
 void Tour::openDrawing()
@@ -171,7 +177,7 @@ void Tour::showGrid()
 
 void Tour::showDrawingPanel()
 {
-    showTab(1);
+    showPanel("Drawing");
     m_driver.waitFor("the panel to name the drawing", [&] { return m_driver.hasItem("fileName"); });
 }
 
@@ -194,7 +200,7 @@ void Tour::startRenaming()
 void Tour::refuseName()
 {
     m_driver.command("PAGE");
-    showTab(0);
+    showPanel("Layers");
     startRenaming();
     save("name-dialog");
     m_driver.replaceText("0");
@@ -262,18 +268,31 @@ int Tour::run(bool hasDrawing)
 {
     QDir().mkpath(m_folder);
     m_hasDrawing = hasDrawing;
-    const std::pair<const char*, void (Tour::*)()> steps[] = {
-        {"open-drawing", &Tour::openDrawing},       {"layers-panel", &Tour::switchLayer},
-        {"context-menu", &Tour::openContextMenu},   {"grid", &Tour::showGrid},
-        {"drawing-panel", &Tour::showDrawingPanel}, {"broken-page", &Tour::showBrokenPage},
-        {"name-refused", &Tour::refuseName},        {"name-accepted", &Tour::acceptName},
-        {"dark-theme", &Tour::switchTheme},         {"damaged-drawing-refused", &Tour::refuseDrawing},
-        {"engine-rebuilt", &Tour::rebuildEngine},   {"drawing-closed", &Tour::closeDrawing},
+    const auto panels = [this](void (PanelTour::*step)()) { return [this, step](Tour*) { (m_panelTour.*step)(); }; };
+    const std::pair<const char*, std::function<void(Tour*)>> steps[] = {
+        {"open-drawing", &Tour::openDrawing},
+        {"layers-panel", &Tour::switchLayer},
+        {"context-menu", &Tour::openContextMenu},
+        {"grid", &Tour::showGrid},
+        {"drawing-panel", &Tour::showDrawingPanel},
+        {"structure", panels(&PanelTour::showStructure)},
+        {"picked-on-canvas", panels(&PanelTour::pickOnCanvas)},
+        {"all-expanded", panels(&PanelTour::useTitleMenu)},
+        {"zoomed-to-selection", panels(&PanelTour::useSplitButton)},
+        {"property-edited", panels(&PanelTour::editProperty)},
+        {"branch-above", panels(&PanelTour::walkThroughBranches)},
+        {"broken-page", &Tour::showBrokenPage},
+        {"name-refused", &Tour::refuseName},
+        {"name-accepted", &Tour::acceptName},
+        {"dark-theme", &Tour::switchTheme},
+        {"damaged-drawing-refused", &Tour::refuseDrawing},
+        {"engine-rebuilt", &Tour::rebuildEngine},
+        {"drawing-closed", &Tour::closeDrawing},
     };
     for (const auto& [name, work] : steps) {
         ++m_step;
         try {
-            (this->*work)();
+            work(this);
             save(name);
         } catch (const std::exception& problem) {
             std::fprintf(stderr, "tour: step %d, %s: %s\n", m_step, name, problem.what());

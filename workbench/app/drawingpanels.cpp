@@ -1,0 +1,25 @@
+#include "app/drawingpanels.h"
+
+#include "drawing/selection.h"
+
+namespace workbench {
+DrawingPanels::DrawingPanels(OdApDocManager& documents, Selection& selection)
+    : structure(documents, selection), branch(*structure.tree(), selection), properties(documents),
+      m_selection(selection)
+{
+    connect(&structure, &StructureController::currentIndexChanged, this, &DrawingPanels::showProperties);
+    connect(&selection, &Selection::changed, this, &DrawingPanels::showProperties);
+}
+
+void DrawingPanels::showProperties()
+{
+    const OdDbObjectId entity = m_selection.current();
+    properties.show(entity.isNull() ? structure.currentObject() : entity);
+}
+
+void DrawingPanels::refresh()
+{
+    structure.refresh();
+    properties.refresh();
+}
+} // namespace workbench
