@@ -58,7 +58,7 @@ FocusScope {
     onWidthChanged: measure()
 
     Connections {
-        target: control.model
+        target: control.model ?? null
 
         function onDataChanged(topLeft, bottomRight) {
             for (let row = topLeft.row; row <= bottomRight.row; ++row)
