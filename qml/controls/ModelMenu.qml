@@ -14,6 +14,7 @@ Menu {
     // Of a sub-menu: the menu that it belongs to.
     property var rootMenu: control
 
+    // From its opening to its end.
     property bool built: false
     property var chosen: undefined
 
@@ -149,6 +150,7 @@ Menu {
 
     delegate: ModelMenuItem {}
 
+    onModelChanged: follow()
     onAboutToShow: {
         if (rootMenu !== control)
             return;
