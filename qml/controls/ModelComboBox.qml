@@ -11,6 +11,8 @@ ComboBox {
     // What the box shows of the current row, which the model may change.
     property url currentIcon
     property size currentIconSize
+    // The widest icon of the popup, so that all texts begin below each other.
+    property real iconColumn: 0
 
     function value(row: int, role: int): var {
         return row >= 0 && row < count ? model.data(model.index(row, 0), role) : undefined;
@@ -19,6 +21,15 @@ ComboBox {
     function readIcon() {
         currentIcon = Icons.source(value(currentIndex, 258));
         currentIconSize = Qt.size(value(currentIndex, 259) ?? 0, value(currentIndex, 260) ?? 0);
+    }
+
+    function measureIcons() {
+        let widest = 0;
+        for (let row = 0; row < count; ++row) {
+            if (value(row, 258))
+                widest = Math.max(widest, value(row, 259) ?? 0);
+        }
+        iconColumn = widest;
     }
 
     // The nearest row that can be chosen, from this one on in steps of 1 or -1; -1 when there is none.
@@ -97,6 +108,14 @@ ComboBox {
         }
     }
 
+    Connections {
+        target: control.popup
+
+        function onAboutToShow() {
+            control.measureIcons();
+        }
+    }
+
     Image {
         id: picture
 
@@ -125,6 +144,10 @@ ComboBox {
         enabled: !isSeparator
         // A "&" in the data is no mnemonic.
         text: String(model[control.textRole] ?? "").replace(/&/g, "&&")
+        leftPadding: {
+            const room = control.iconColumn - (hasIcon ? icon.width : 0);
+            return Metrics.padding + room + (control.iconColumn > 0 && !hasIcon ? spacing : 0);
+        }
         icon.source: source
         icon.width: hasIcon ? model.iconWidth : 0
         icon.height: hasIcon ? model.iconHeight : 0

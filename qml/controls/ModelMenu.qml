@@ -3,8 +3,8 @@ import QtQuick.Controls
 import Tandolin.API.Controls
 import Tandolin.API.Core.Themes
 
-// A menu whose rows come from a MenuModel. They are made anew each time it is about to open; what is opened follows the
-// model. The command of a row runs when the menu is closed and nothing of it is at work any more.
+// A menu whose rows come from a MenuModel. They are made anew each time it is about to open; it closes when
+// rows come or go. The command of a row runs when the menu is closed and nothing of it is at work any more.
 Menu {
     id: control
 
@@ -14,6 +14,7 @@ Menu {
     // Of a sub-menu: the menu that it belongs to.
     property var rootMenu: control
 
+    // From its opening to its end.
     property bool built: false
     property var chosen: undefined
 
@@ -113,6 +114,16 @@ Menu {
         }
     }
 
+    // Shows what the model says now of the rows that there are.
+    function refresh() {
+        for (let row = 0; row < count; ++row) {
+            if (itemAt(row) instanceof ModelMenuItem)
+                itemAt(row).entry = read(indexOf(row));
+            menuAt(row)?.refresh();
+        }
+        align();
+    }
+
     function choose(index) {
         chosen = index;
         later.restart();
@@ -128,14 +139,18 @@ Menu {
         triggered(index);
     }
 
+    // Indexes of the former rows mean nothing now. Rows may still come and go in a page's own onAboutToShow.
     function follow() {
         chosen = undefined;
-        if (built && rootMenu === control)
+        if (visible)
+            close();
+        else if (built)
             build();
     }
 
     delegate: ModelMenuItem {}
 
+    onModelChanged: follow()
     onAboutToShow: {
         if (rootMenu !== control)
             return;
@@ -145,7 +160,7 @@ Menu {
     onClosed: built = false
 
     Connections {
-        target: control.rootMenu === control ? control.model : null
+        target: control.rootMenu === control ? control.model ?? null : null
 
         function onModelReset() {
             control.follow();
@@ -158,10 +173,17 @@ Menu {
         }
         function onDataChanged() {
             if (control.built)
-                control.build();
+                changed.restart();
         }
     }
 
+    // Many rows may change at once.
+    Timer {
+        id: changed
+
+        interval: 0
+        onTriggered: control.refresh()
+    }
     Timer {
         id: later
 

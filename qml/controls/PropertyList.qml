@@ -59,7 +59,7 @@ FocusScope {
     onWidthChanged: measure()
 
     Connections {
-        target: control.model
+        target: control.model ?? null
 
         function onDataChanged(topLeft, bottomRight) {
             for (let row = topLeft.row; row <= bottomRight.row; ++row)

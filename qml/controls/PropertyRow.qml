@@ -29,10 +29,11 @@ FocusScope {
 
     // The text in the type that the property has.
     function commitText(text: string) {
+        const number = Number(text) | 0;
         if (typeof entry.value !== "number")
             commit(text);
-        else if (text.trim() !== "" && Number.isInteger(Number(text)))
-            commit(Number(text));
+        else if (text.trim() !== "" && number === Number(text))
+            commit(number);
         else
             refresh();
     }
@@ -50,8 +51,8 @@ FocusScope {
     HoverHandler {
         id: hover
     }
-    ToolTip.text: entry.toolTip
-    ToolTip.visible: Settings.tooltips && hover.hovered && entry.toolTip !== ""
+    ToolTip.text: entry.toolTip || (label.truncated ? entry.label : "")
+    ToolTip.visible: Settings.tooltips && hover.hovered && ToolTip.text !== ""
     ToolTip.delay: Settings.tooltipDelay
 
     Label {
@@ -92,6 +93,7 @@ FocusScope {
             objectName: "more"
             visible: row.entry.hasButton && row.entry.kind !== "image"
             implicitWidth: Metrics.controlHeight + 4
+            horizontalPadding: 0
             text: "..."
             Accessible.name: row.entry.label
             onClicked: row.list.model.loadFile(row.index)
@@ -134,7 +136,7 @@ FocusScope {
             enabled: !row.entry.readOnly
             checked: row.entry.value
             Accessible.name: row.entry.label
-            onToggled: row.commit(row.entry.isBool ? checked : Number(checked))
+            onToggled: row.commit(row.entry.isBool ? checked : (checked ? 1 : 0))
         }
     }
     Component {
@@ -145,7 +147,7 @@ FocusScope {
             enabled: !row.entry.readOnly
             checked: row.entry.value
             Accessible.name: row.entry.label
-            onToggled: row.commit(row.entry.isBool ? checked : Number(checked))
+            onToggled: row.commit(row.entry.isBool ? checked : (checked ? 1 : 0))
         }
     }
     Component {

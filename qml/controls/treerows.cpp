@@ -45,6 +45,7 @@ void TreeRows::connectSource()
 {
     const QAbstractItemModel* source = m_source;
     connect(source, &QAbstractItemModel::dataChanged, this, &TreeRows::onDataChanged);
+    connect(source, &QAbstractItemModel::rowsAboutToBeInserted, this, &TreeRows::onRowsAboutToBeInserted);
     connect(source, &QAbstractItemModel::rowsInserted, this, &TreeRows::onRowsInserted);
     connect(source, &QAbstractItemModel::rowsAboutToBeRemoved, this, &TreeRows::onRowsAboutToBeRemoved);
     connect(source, &QAbstractItemModel::rowsRemoved, this, &TreeRows::onRowsRemoved);
@@ -273,19 +274,25 @@ void TreeRows::onDataChanged(const QModelIndex& topLeft, const QModelIndex& bott
         Q_EMIT dataChanged(index(first), index(rowOf(bottomRight.siblingAtColumn(0))), roles);
 }
 
+void TreeRows::onRowsAboutToBeInserted(const QModelIndex& parent, int first, int last)
+{
+    const OpenBranch* branch = m_resetting ? nullptr : findBranch(parent);
+    if (!branch)
+        return;
+    const int row = branch->placeInRoot() + branch->placeOfChild(first);
+    beginInsertRows(QModelIndex(), row, row + last - first);
+}
+
 void TreeRows::onRowsInserted(const QModelIndex& parent, int first, int last)
 {
     if (m_resetting)
         return;
     if (OpenBranch* branch = findBranch(parent)) {
-        // The new rows first as closed ones.
-        const int count = last - first + 1;
-        const int row = branch->placeInRoot() + branch->placeOfChild(first);
-        beginInsertRows(QModelIndex(), row, row + count - 1);
-        branch->insertRows(first, count);
+        // At first as closed ones.
+        branch->insertRows(first, last - first + 1);
         endInsertRows();
-        for (int child = first; child <= last; ++child) {
-            const QModelIndex index = m_source->index(child, 0, parent);
+        for (int row = first; row <= last; ++row) {
+            const QModelIndex index = m_source->index(row, 0, parent);
             if (isOpen(index))
                 apply(index, true);
         }

@@ -14,6 +14,17 @@ T.Menu {
     font.pointSize: Metrics.fontSize
     font.hintingPreference: Metrics.hinting
 
+    // Has the keyboard again when the menu is closed, which Qt 6.4 doesn't see to.
+    property Item formerFocus: null
+
+    onAboutToShow: formerFocus = parent?.Window.window?.activeFocusItem ?? null
+    onClosed: {
+        const window = formerFocus?.Window.window;
+        if (window && (!window.activeFocusItem || window.activeFocusItem === window.contentItem))
+            formerFocus.forceActiveFocus(Qt.PopupFocusReason);
+        formerFocus = null;
+    }
+
     // Chooses the entry that the letter stands for; of several the next one, which waits for Enter then.
     function takeLetter(letter: string): bool {
         const rows = [];
@@ -48,8 +59,9 @@ T.Menu {
         currentIndex: control.currentIndex
         boundsBehavior: Flickable.StopAtBounds
         Keys.onPressed: event => {
-            const plain = !(event.modifiers & ~Qt.ShiftModifier);
-            event.accepted = plain && event.text > " " && control.takeLetter(event.text);
+            // Alt alone would close the menu before its letter comes; with it a letter is a shortcut of its entry.
+            const isLetter = event.text > " " && !(event.modifiers & ~Qt.ShiftModifier);
+            event.accepted = event.key === Qt.Key_Alt || isLetter && control.takeLetter(event.text);
         }
 
         T.ScrollIndicator.vertical: ScrollIndicator {}

@@ -1,60 +1,16 @@
+#include "shownpage.h"
 #include "support/fakehost.h"
 #include "support/scopes.h"
-#include "velm/bridge/engine.h"
 #include "velm/dialogs/namedialogcontroller.h"
 #include "velm/units/settings.h"
 
-#include <QApplication>
 #include <QQmlComponent>
-#include <QQmlEngine>
-#include <QQuickItem>
-#include <QQuickWindow>
 #include <QSignalSpy>
 #include <QStandardItemModel>
 #include <QTest>
 
 using namespace velm;
-
-namespace {
-/// A page in a window that has the keyboard.
-class Shown
-{
-public:
-    explicit Shown(QObject* page) : m_page(page)
-    {
-        auto* item = qobject_cast<QQuickItem*>(page);
-        if (!item)
-            return;
-        item->setParentItem(m_window.contentItem());
-        item->setSize(QSizeF(item->implicitWidth(), item->implicitHeight()));
-        m_window.resize(500, 400);
-        m_window.show();
-        m_window.requestActivate();
-        item->forceActiveFocus();
-        m_ready = QTest::qWaitForWindowActive(&m_window);
-    }
-    bool isReady() const { return m_ready; }
-    QQuickWindow* window() { return &m_window; }
-    QQuickItem* focusItem() const { return m_window.activeFocusItem(); }
-    QQuickItem* find(const char* name) const { return m_page->findChild<QQuickItem*>(QString::fromLatin1(name)); }
-    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(&m_window, key, modifiers); }
-    void type(const char* text)
-    {
-        for (; *text; ++text)
-            QTest::keyClick(&m_window, *text);
-    }
-    void click(QQuickItem* item)
-    {
-        const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
-        QTest::mouseClick(&m_window, Qt::LeftButton, {}, centre.toPoint());
-    }
-
-private:
-    std::unique_ptr<QObject> m_page;
-    QQuickWindow m_window;
-    bool m_ready = false;
-};
-} // namespace
+using velmtest::Shown;
 
 /// The pages and the shared controls as a user works them.
 class TestPages : public QObject
@@ -382,13 +338,7 @@ void TestPages::mnemonicsPressTheirButtons()
 
 int main(int argc, char** argv)
 {
-    // The environment of a developer has no say, but the platform of the test has.
-    qputenv("TN_QT_QPA_PLATFORM", qgetenv("QT_QPA_PLATFORM"));
-    undefineQtEnvVars();
-    QApplication application(argc, argv);
-    setDefaultLocale();
-    TestPages test;
-    return QTest::qExec(&test, argc, argv);
+    return velmtest::runPageTest<TestPages>(argc, argv);
 }
 
 #include "tst_pages.moc"
