@@ -14,6 +14,12 @@ QString rendered(QMetaType type, const void* value)
         const auto index = variant.toModelIndex();
         return index.isValid() ? QString("%1,%2").arg(index.row()).arg(index.column()) : QString("-");
     }
+    if (type == QMetaType::fromType<QList<int>>()) {
+        QStringList numbers;
+        for (const int number : variant.value<QList<int>>())
+            numbers += QString::number(number);
+        return '[' + numbers.join(' ') + ']';
+    }
     return variant.canConvert<QString>() ? variant.toString() : QString(type.name());
 }
 } // namespace
@@ -23,7 +29,8 @@ SignalLog::SignalLog(const QObject& sender)
     const QMetaObject* metaObject = sender.metaObject();
     for (int index = QObject::staticMetaObject.methodCount(); index < metaObject->methodCount(); ++index) {
         const QMetaMethod method = metaObject->method(index);
-        if (method.methodType() != QMetaMethod::Signal)
+        // A signal whose last argument may be left out has a second entry without it.
+        if (method.methodType() != QMetaMethod::Signal || (method.attributes() & QMetaMethod::Cloned) != 0)
             continue;
         // Connected to methods that only qt_metacall() knows, numbered behind those of QObject.
         const int slot = QObject::staticMetaObject.methodCount() + static_cast<int>(m_signals.size());

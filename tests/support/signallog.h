@@ -9,8 +9,8 @@
 
 namespace velmtest {
 /// Writes down all signals of an object, those of QObject itself left out, in the order in which they come, as
-/// "nameChanged" or "picked(3, red)". Model indexes read as "row,column", the invalid one as "-".
-/// Queued connections are not watched.
+/// "nameChanged" or "picked(3, red)". Model indexes read as "row,column", the invalid one as "-", lists of roles as
+/// "[8]". Queued connections are not watched.
 class SignalLog : public QObject
 {
 public:
