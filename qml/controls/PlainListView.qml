@@ -29,7 +29,6 @@ FocusScope {
 
     function find(letters) {
         const wanted = letters.toLowerCase();
-        // One letter goes on from the current row; more of them may still match it.
         const first = Math.max(0, wanted.length > 1 ? currentIndex : currentIndex + 1);
         for (let step = 0; step < count; ++step) {
             const row = (first + step) % count;
@@ -63,27 +62,14 @@ FocusScope {
             moveTo(currentIndex + page);
         else if ((event.key === Qt.Key_Return || event.key === Qt.Key_Enter) && currentIndex >= 0)
             activated(currentIndex);
-        else if (event.text > " " && !(event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier)))
-            typed.add(event.text);
         else
-            event.accepted = event.key === Qt.Key_Space && typed.running && typed.add(" ");
+            event.accepted = typed.take(event);
     }
 
-    Timer {
+    TypedLetters {
         id: typed
 
-        property string letters
-
-        function add(text: string): bool {
-            const again = running && letters === text;
-            // The same letter again walks through the rows that begin with it.
-            letters = again ? text : running ? letters + text : text;
-            restart();
-            control.find(letters);
-            return true;
-        }
-
-        interval: 1000
+        onWanted: letters => control.find(letters)
     }
 
     // Reads the texts of rows that the view hasn't made.

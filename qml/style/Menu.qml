@@ -14,6 +14,23 @@ T.Menu {
     font.pointSize: Metrics.fontSize
     font.hintingPreference: Metrics.hinting
 
+    // Chooses the entry that the letter stands for; of several the next one, which waits for Enter then.
+    function takeLetter(letter: string): bool {
+        const rows = [];
+        for (let row = 0; row < count; ++row) {
+            const item = itemAt(row) as T.MenuItem;
+            const name = item?.enabled ? /&([^&])/.exec(item.text.replace(/&&/g, "")) : null;
+            if (name && name[1].toLowerCase() === letter.toLowerCase())
+                rows.push(row);
+        }
+        if (rows.length === 0)
+            return false;
+        currentIndex = rows.find(row => row > currentIndex) ?? rows[0];
+        if (rows.length === 1)
+            (itemAt(currentIndex) as T.MenuItem).triggered();
+        return true;
+    }
+
     delegate: MenuItem {}
     contentItem: ListView {
         implicitWidth: {
@@ -24,10 +41,16 @@ T.Menu {
         }
         implicitHeight: contentHeight
         model: control.contentModel
+        focus: true
+        keyNavigationEnabled: false
         interactive: Window.window ? contentHeight + control.topPadding + control.bottomPadding > control.height : false
         clip: true
         currentIndex: control.currentIndex
         boundsBehavior: Flickable.StopAtBounds
+        Keys.onPressed: event => {
+            const plain = !(event.modifiers & ~Qt.ShiftModifier);
+            event.accepted = plain && event.text > " " && control.takeLetter(event.text);
+        }
 
         T.ScrollIndicator.vertical: ScrollIndicator {}
     }

@@ -29,8 +29,8 @@ SignalLog::SignalLog(const QObject& sender)
     const QMetaObject* metaObject = sender.metaObject();
     for (int index = QObject::staticMetaObject.methodCount(); index < metaObject->methodCount(); ++index) {
         const QMetaMethod method = metaObject->method(index);
-        // A signal whose last argument may be left out has a second entry without it.
-        if (method.methodType() != QMetaMethod::Signal || (method.attributes() & QMetaMethod::Cloned) != 0)
+        // A signal with default arguments counts once.
+        if (method.methodType() != QMetaMethod::Signal || (method.attributes() & QMetaMethod::Cloned))
             continue;
         // Connected to methods that only qt_metacall() knows, numbered behind those of QObject.
         const int slot = QObject::staticMetaObject.methodCount() + static_cast<int>(m_signals.size());

@@ -1,6 +1,8 @@
 #include "app/mainframe.h"
 
-#include "app/actions.h"
+#include "app/drawingcommands.h"
+#include "app/framecommands.h"
+#include "app/framemenu.h"
 #include "app/hostservices.h"
 #include "app/velmsession.h"
 #include "command/commandline.h"
@@ -48,10 +50,13 @@ void placeSash(wxSplitterWindow& splitter, int size)
 MainFrame::MainFrame(VelmSession& session, HostServices& services, PageGroup& pages)
     : wxFrame(nullptr, wxID_ANY, "velm workbench", wxDefaultPosition, wxSize(1100, 720)), m_session(session),
       m_services(services), m_pages(pages), m_documents(services.documents(), services.dialogs(), pages),
-      m_layers(services.documents(), services.dialogs()), m_drawingInfo(services.documents())
+      m_selection(services.documents()), m_layers(services.documents(), services.dialogs()),
+      m_drawingInfo(services.documents()), m_canvasMenu(services.documents(), m_selection),
+      m_contextMenu(pages, *this, m_canvasMenu)
 {
     build();
     addCommands();
+    connectCanvas();
     m_services.setCommandLine(m_commandLine);
     m_services.documents().addReactor(this);
     m_documents.log = [this](const wxString& line) { m_commandLine->log(line); };
@@ -97,7 +102,7 @@ void MainFrame::build()
                                            wxSP_LIVE_UPDATE | wxSP_NOBORDER);
     m_canvas = new DrawingCanvas(m_lowerSplitter);
     m_canvas->background = [] { return wxGuiColour(ut::EGuiColor::Grey0); };
-    m_canvas->onCursorMoved = [this](const OdGePoint3d& point) { showCursor(point); };
+    m_canvas->accent = [] { return wxGuiColour(ut::EGuiColor::BlueHighlight); };
     m_commandLine = new CommandLine(m_lowerSplitter);
     m_panels = new wxNotebook(m_sideSplitter, wxID_ANY);
     addPanel("Workbench/LayersPanel.qml", &m_layers, _("Layers"));
@@ -112,7 +117,7 @@ void MainFrame::build()
     placeSash(*m_sideSplitter, FromDIP(sideWidth));
     placeSash(*m_lowerSplitter, FromDIP(lowerHeight));
 
-    addMenus(*this, actions());
+    addMenus(*this, frameActions(*this));
     for (PagePanel* page : m_pages.pages())
         page->setAcceleratorTable(shortcuts(*GetMenuBar()));
     CreateStatusBar(3, wxSTB_DEFAULT_STYLE & ~wxSTB_SIZEGRIP);
@@ -135,99 +140,34 @@ PagePanel* MainFrame::panel(int tab) const
     return dynamic_cast<PagePanel*>(m_panels->GetPage(static_cast<size_t>(tab)));
 }
 
-std::vector<Action> MainFrame::actions()
-{
-    const auto hasDrawing = [this] { return m_documents.current() != nullptr; };
-    const auto theme = [this](ut::EGuiColorTheme wanted, const wxString& label) {
-        return Action{_("&View"),
-                      label,
-                      {},
-                      _("Change the colours of the whole program"),
-                      [this, wanted] { setTheme(wanted, false); },
-                      [this, wanted] { return m_session.theme() == wanted; },
-                      {}};
-    };
-    return {
-        {_("&File"), _("&Open..."), "Ctrl+O", _("Open a drawing"), [this] { askForDrawing(); }, {}, {}},
-        {_("&File"), _("&Close"), "Ctrl+W", _("Close the drawing"), [this] { m_documents.close(); }, {}, hasDrawing},
-        {_("&File"), {}, {}, {}, {}, {}, {}},
-        {_("&File"), _("E&xit"), "Ctrl+Q", _("End the program"), [this] { Close(); }, {}, {}},
-        {_("&View"),
-         _("Zoom &extents"),
-         "Ctrl+0",
-         _("Show the whole drawing"),
-         [this] { m_canvas->zoomExtents(); },
-         {},
-         hasDrawing},
-        {_("&View"), {}, {}, {}, {}, {}, {}},
-        theme(ut::EGuiColorTheme::Dark, _("&Dark theme")),
-        theme(ut::EGuiColorTheme::Light, _("&Light theme")),
-        {_("&View"), {}, {}, {}, {}, {}, {}},
-        {_("&View"),
-         _("&Rebuild engine"),
-         "Ctrl+R",
-         _("Load all pages into a new engine"),
-         [this] { m_commandLine->processCommand("REBUILD"); },
-         {},
-         {}},
-        {_("&Layer"),
-         _("&Rename..."),
-         "F2",
-         _("Give the current layer another name"),
-         [this] { m_layers.renameCurrent(); },
-         {},
-         [this] { return m_layers.canRename(); }},
-        {_("&Help"),
-         _("&About"),
-         {},
-         _("What this program is"),
-         [this] {
-             m_services.dialogs().showInfoMessage(
-                 _("About").wc_str(),
-                 _("velm workbench\n\nA small host that shows velm: Qt Quick panels and dialogs "
-                   "inside a wxWidgets drawing application.")
-                     .wc_str(),
-                 nullptr, velm::MessageButtonStyle::OK);
-         },
-         {},
-         {}},
-    };
-}
-
 void MainFrame::addCommands()
 {
-    m_commands.add("OPEN", _("Opens a drawing: OPEN file"), [this](const wxString& file) {
-        if (file.empty())
-            askForDrawing();
-        else
-            openDrawing(file);
-    });
-    m_commands.add("CLOSE", _("Closes the drawing"), [this](const wxString&) { m_documents.close(); });
-    m_commands.add("ZOOM", _("Shows the whole drawing"), [this](const wxString&) { m_canvas->zoomExtents(); });
-    m_commands.add("THEME", _("Changes the colours: THEME DARK or THEME LIGHT"), [this](const wxString& name) {
-        if (name.IsSameAs("DARK", false))
-            setTheme(ut::EGuiColorTheme::Dark, true);
-        else if (name.IsSameAs("LIGHT", false))
-            setTheme(ut::EGuiColorTheme::Light, true);
-        else
-            m_commandLine->log(m_commands.help("THEME"));
-    });
-    m_commands.add("RENAME", _("Gives the current layer another name"),
-                   [this](const wxString&) { m_layers.renameCurrent(); });
-    m_commands.add("REBUILD", _("Loads all pages into a new engine"), [this](const wxString&) {
-        m_session.rebuildEngine();
-        m_commandLine->log(_("The pages run in a new engine."));
-    });
-    m_commands.add("PAGE", _("Shows a page of QML in a tab: PAGE file, or PAGE alone to close it"),
-                   [this](const wxString& file) { tryPage(file); });
-    m_commands.add("QUIT", _("Ends the program"), [this](const wxString&) { Close(); });
-    m_commands.add("HELP", _("Lists the commands"), [this](const wxString&) {
-        for (const wxString& name : m_commands.names())
-            m_commandLine->log(wxString::Format("%-9s %s", name, m_commands.help(name)));
-    });
+    addFrameCommands(m_commands, *this);
+    addDrawingCommands(m_commands, *this);
     m_commandLine->onCommand = [this](const wxString& line) {
         if (!m_commands.run(line))
             m_commandLine->log(wxString::Format(_("Unknown command: %s. HELP lists the commands."), line));
+    };
+    m_commandLine->onEscape = [this] { m_selection.clear(); };
+}
+
+void MainFrame::connectCanvas()
+{
+    m_canvas->onCursorMoved = [this](const OdGePoint3d& point) { showCursor(point); };
+    m_canvas->onPicked = [this](OdDbObjectId entity) { m_selection.set(entity); };
+    m_canvas->Bind(wxEVT_LEFT_UP, [this](wxMouseEvent& event) {
+        // What is typed next is a command.
+        m_commandLine->input()->SetFocus();
+        event.Skip();
+    });
+    QObject::connect(&m_selection, &Selection::changed, &m_selection,
+                     [this] { m_canvas->setHighlighted(m_selection.current()); });
+    m_canvas->onMenuWanted = [this] { m_contextMenu.open(); };
+    m_canvasMenu.isGridShown = [this] { return m_canvas->isGridShown(); };
+    m_canvasMenu.isSnapping = [this] { return m_canvas->isSnapping(); };
+    // Once the menu is closed: a command may open a dialog or take the pages down.
+    m_canvasMenu.run = [this](const wxString& line) {
+        CallAfter([this, line] { m_commandLine->processCommand(line); });
     };
 }
 
@@ -260,14 +200,6 @@ void MainFrame::askForDrawing()
         openDrawing(dialog.GetPath());
 }
 
-void MainFrame::setTheme(ut::EGuiColorTheme theme, bool byManager)
-{
-    if (byManager)
-        m_session.setThemeByManager(theme);
-    else
-        m_session.setTheme(theme);
-}
-
 void MainFrame::documentBecameCurrent(OdApDocument* document)
 {
     m_canvas->setDatabase(document ? document->database() : nullptr);
@@ -275,6 +207,13 @@ void MainFrame::documentBecameCurrent(OdApDocument* document)
     SetTitle(document ? wxFileName(document->fileName().c_str()).GetFullName() + " - velm workbench"
                       : wxString("velm workbench"));
     SetStatusText({}, 0);
+    showState();
+}
+
+void MainFrame::drawingChanged()
+{
+    m_canvas->refreshDrawing();
+    m_drawingInfo.refresh();
     showState();
 }
 

@@ -1,16 +1,15 @@
 #pragma once
 
+#include "app/canvasmenu.h"
 #include "app/documents.h"
 #include "command/commands.h"
+#include "drawing/selection.h"
+#include "host/contextmenupopup.h"
 #include "od/odge.h"
 #include "panels/drawinginfo.h"
 #include "panels/layerscontroller.h"
-#include "ut/themecolors.h"
 
 #include <wx/frame.h>
-
-#include <memory>
-#include <vector>
 
 class QObject;
 class wxNotebook;
@@ -23,7 +22,6 @@ class HostServices;
 class PageGroup;
 class PagePanel;
 class VelmSession;
-struct Action;
 
 /// The program's window: menu, drawing, command line, and panels with pages at its side.
 class MainFrame : public wxFrame, private OdApDocManagerReactor
@@ -34,7 +32,15 @@ public:
     ~MainFrame() override;
 
     void openDrawing(const wxString& file);
+    void askForDrawing();
+    /// Shows any page in the last tab, for whoever writes one; an empty name takes that tab away.
+    void tryPage(const wxString& file);
+    /// To call after a change of what is in the drawing.
+    void drawingChanged();
 
+    VelmSession& session() { return m_session; }
+    Documents& documents() { return m_documents; }
+    Selection& selection() { return m_selection; }
     DrawingCanvas& canvas() { return *m_canvas; }
     CommandLine& commandLine() { return *m_commandLine; }
     LayersController& layers() { return m_layers; }
@@ -44,13 +50,9 @@ public:
 
 private:
     void build();
-    std::vector<Action> actions();
     void addCommands();
+    void connectCanvas();
     PagePanel* addPanel(const QString& page, QObject* controller, const wxString& title);
-    /// Shows any page in the last tab, for whoever writes one; an empty name takes that tab away.
-    void tryPage(const wxString& file);
-    void askForDrawing();
-    void setTheme(ut::EGuiColorTheme theme, bool byManager);
     void pushUnits();
     void applyColours();
     void showCursor(const OdGePoint3d& point);
@@ -66,9 +68,12 @@ private:
     HostServices& m_services;
     PageGroup& m_pages;
     Documents m_documents;
+    Selection m_selection;
     LayersController m_layers;
     DrawingInfo m_drawingInfo;
     Commands m_commands;
+    CanvasMenu m_canvasMenu;
+    ContextMenuPopup m_contextMenu;
     // All owned by the window tree.
     DrawingCanvas* m_canvas = nullptr;
     CommandLine* m_commandLine = nullptr;

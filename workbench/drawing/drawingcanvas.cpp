@@ -1,5 +1,8 @@
 #include "drawing/drawingcanvas.h"
 
+#include "drawing/grid.h"
+#include "drawing/picking.h"
+
 #include <wx/dcbuffer.h>
 #include <wx/graphics.h>
 
@@ -30,6 +33,11 @@ DrawingCanvas::DrawingCanvas(wxWindow* parent)
     });
     for (const auto& type : {wxEVT_MIDDLE_DOWN, wxEVT_LEFT_DOWN, wxEVT_MOTION, wxEVT_MIDDLE_UP, wxEVT_LEFT_UP})
         Bind(type, &DrawingCanvas::trackMouse, this);
+    Bind(wxEVT_RIGHT_UP, [this](wxMouseEvent& event) {
+        pickAt(event.GetPosition());
+        if (onMenuWanted)
+            onMenuWanted();
+    });
     Bind(wxEVT_MIDDLE_DCLICK, [this](wxMouseEvent&) { zoomExtents(); });
     Bind(wxEVT_MOUSE_CAPTURE_LOST, [this](wxMouseCaptureLostEvent&) { m_isPanning = false; });
 }
@@ -42,6 +50,7 @@ DrawingCanvas::~DrawingCanvas()
 void DrawingCanvas::setDatabase(OdDbDatabase* database)
 {
     m_database = database;
+    m_highlighted = OdDbObjectId::kNull;
     refreshDrawing();
     zoomExtents();
 }
@@ -100,6 +109,26 @@ void DrawingCanvas::panBy(wxPoint pixels)
     Refresh();
 }
 
+OdDbObjectId DrawingCanvas::entityAt(wxPoint position) const
+{
+    constexpr double reach = 6.0; // pixels
+    const OdGePoint3d point = m_view.toWorld(position.x, position.y);
+    const std::optional<std::uint32_t> entity = pickEntity(m_tessellation, point.x, point.y, reach / m_view.scale);
+    return entity ? m_database->modelSpace()->entities()[*entity] : OdDbObjectId::kNull;
+}
+
+void DrawingCanvas::setHighlighted(OdDbObjectId entity)
+{
+    m_highlighted = entity;
+    Refresh();
+}
+
+void DrawingCanvas::showGrid(bool shown)
+{
+    m_isGridShown = shown;
+    Refresh();
+}
+
 void DrawingCanvas::paint()
 {
     wxAutoBufferedPaintDC dc(this);
@@ -107,7 +136,16 @@ void DrawingCanvas::paint()
     dc.SetBackground(wxBrush(colour));
     dc.Clear();
     const std::unique_ptr<wxGraphicsContext> context(wxGraphicsContext::Create(dc));
+    if (m_isGridShown && m_database)
+        paintGrid(*context, m_view, colour);
     m_drawnEntityCount = DrawingPainter(*context, m_view, colour).paint(m_tessellation);
+    if (m_database && !m_highlighted.isNull()) {
+        const OdArray<OdDbObjectId>& entities = m_database->modelSpace()->entities();
+        const auto number = std::ranges::find(entities, m_highlighted) - entities.begin();
+        DrawingPainter(*context, m_view, colour)
+            .paintHighlight(m_tessellation, static_cast<std::uint32_t>(number),
+                            accent ? accent() : wxColour(0, 120, 215));
+    }
 }
 
 void DrawingCanvas::trackMouse(wxMouseEvent& event)
@@ -122,12 +160,20 @@ void DrawingCanvas::trackMouse(wxMouseEvent& event)
     } else if (m_isPanning && event.Dragging()) {
         panBy(position - m_lastMouse);
     }
+    if (event.LeftDown() && !isPanButton)
+        pickAt(position);
     m_lastMouse = position;
-    if (event.Moving() || event.Dragging()) {
-        if (onCursorMoved)
-            onCursorMoved(m_view.toWorld(position.x, position.y));
+    if ((event.Moving() || event.Dragging()) && onCursorMoved) {
+        const OdGePoint3d point = m_view.toWorld(position.x, position.y);
+        onCursorMoved(m_isSnapping ? onGrid(point, gridSpacing(m_view.scale)) : point);
     }
     event.Skip();
+}
+
+void DrawingCanvas::pickAt(wxPoint position)
+{
+    if (onPicked)
+        onPicked(entityAt(position));
 }
 
 void DrawingCanvas::endPan()

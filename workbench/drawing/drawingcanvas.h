@@ -10,7 +10,8 @@ namespace workbench {
 
 /// Shows the model space of a drawing. The wheel zooms about the cursor; the middle button, or the left one with the
 /// space bar held, pans; a double click of the middle button shows everything. As long as the user hasn't moved the
-/// view, it stays fitted to the drawing when the size changes.
+/// view, it stays fitted to the drawing when the size changes. A click of the left or the right button picks the entity
+/// under it.
 class DrawingCanvas : public wxPanel
 {
 public:
@@ -27,21 +28,40 @@ public:
     void zoomBy(double factor, wxPoint center);
     void panBy(wxPoint pixels);
 
+    /// The entity that is drawn nearest to a place, in pixels, or null when none is within a few pixels.
+    OdDbObjectId entityAt(wxPoint position) const;
+    /// Shows one entity of the drawing as the selected one; null shows none.
+    void setHighlighted(OdDbObjectId entity);
+
+    /// A grid that follows the zoom.
+    bool isGridShown() const { return m_isGridShown; }
+    void showGrid(bool shown);
+    /// Whether the cursor's coordinates are those of the nearest point of the grid, shown or not.
+    bool isSnapping() const { return m_isSnapping; }
+    void setSnapping(bool snapping) { m_isSnapping = snapping; }
+
     const DrawingView& view() const { return m_view; }
     /// How many entities of the model space the last paint drew.
     std::size_t drawnEntityCount() const { return m_drawnEntityCount; }
 
     std::function<void(const OdGePoint3d&)> onCursorMoved; ///< in the coordinates of the drawing
+    std::function<void(OdDbObjectId)> onPicked;            ///< null: nothing is there
+    std::function<void()> onMenuWanted;                    ///< the right button was released, after its picking
     std::function<wxColour()> background;                  ///< asked at each paint; without it the canvas is dark grey
+    std::function<wxColour()> accent;                      ///< the selected entity's, asked at each paint
 
 private:
     void fit();
     void paint();
     void trackMouse(wxMouseEvent& event);
+    void pickAt(wxPoint position);
     void endPan();
 
     OdDbDatabase* m_database = nullptr; // not owned
     Tessellation m_tessellation;
+    OdDbObjectId m_highlighted;
+    bool m_isGridShown = false;
+    bool m_isSnapping = false;
     DrawingView m_view;
     bool m_isFitted = true;
     bool m_isPanning = false;

@@ -167,6 +167,30 @@ std::size_t DrawingPainter::paint(const Tessellation& tessellation)
     return drawn;
 }
 
+void DrawingPainter::paintHighlight(const Tessellation& tessellation, std::uint32_t entity, const wxColour& colour)
+{
+    constexpr int glow = 6; // pixels
+    const wxColour glowColour(colour.Red(), colour.Green(), colour.Blue(), 90);
+    const Box visible = m_view.visible();
+    for (const bool isGlow : {true, false})
+        for (const Piece& piece : tessellation.pieces) {
+            if (piece.entity != entity || !piece.box.intersects(visible))
+                continue;
+            if (piece.text >= 0) {
+                if (!isGlow)
+                    paintText(tessellation.texts[piece.text], colour);
+                continue;
+            }
+            const int width = piece.count == 1 ? 1 : penWidth(piece.lineWeight);
+            setPen(isGlow ? glowColour : colour, isGlow ? width + glow : width);
+            if (piece.count == 1)
+                paintMark(tessellation.points[piece.first]);
+            else
+                paintChain(tessellation, piece);
+        }
+    flush();
+}
+
 void DrawingPainter::paintChain(const Tessellation& tessellation, const Piece& piece)
 {
     const std::vector<double>* pattern = piece.dashes >= 0 ? &tessellation.dashPatterns[piece.dashes] : nullptr;

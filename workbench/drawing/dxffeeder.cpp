@@ -157,7 +157,7 @@ void DxfFeeder::feedGroup(int code, std::string_view value)
     m_lines += '\n';
     m_buffer.setText(m_lines);
     m_stream.clear();
-    m_dxf.readDxfGroups(m_stream, &m_builder);
+    m_dxf->readDxfGroups(m_stream, &m_builder);
 }
 
 void DxfFeeder::noteRecord(const Range& range, std::string_view type)

@@ -5,7 +5,9 @@
 
 #include <dxflib/dl_dxf.h>
 
+#include <cstddef>
 #include <istream>
+#include <new>
 #include <streambuf>
 
 namespace workbench {
@@ -48,6 +50,20 @@ private:
     std::string_view valueOf(const Range& range, int code) const;
     std::wstring blockName(std::string_view value) const;
 
+    /// dxflib leaves unset what object it is reading, and would add one before the first.
+    class ZeroedDxf
+    {
+    public:
+        ZeroedDxf() : m_dxf(new (m_memory) DL_Dxf) {}
+        ~ZeroedDxf() { m_dxf->~DL_Dxf(); }
+        ZeroedDxf(const ZeroedDxf&) = delete;
+        ZeroedDxf& operator=(const ZeroedDxf&) = delete;
+        DL_Dxf* operator->() { return m_dxf; }
+
+    private:
+        alignas(DL_Dxf) std::byte m_memory[sizeof(DL_Dxf)]{};
+        DL_Dxf* m_dxf; // in m_memory
+    };
     class LineBuffer : public std::streambuf
     {
     public:
@@ -56,7 +72,7 @@ private:
 
     const std::vector<DxfGroup>& m_groups;
     DatabaseBuilder& m_builder;
-    DL_Dxf m_dxf;
+    ZeroedDxf m_dxf;
     LineBuffer m_buffer;
     std::istream m_stream{&m_buffer};
     std::string m_lines; // what m_buffer reads

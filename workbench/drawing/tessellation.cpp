@@ -212,6 +212,7 @@ void Tessellator::addText(const OdDbText& text, const Surroundings& own)
     piece.text = static_cast<int>(m_result.texts.size());
     const double c = std::cos(placed.rotation);
     const double s = std::sin(placed.rotation);
+    placed.extent = {left, bottom, left + width, bottom + height};
     for (const double cornerX : {left, left + width})
         for (const double cornerY : {bottom, bottom + height})
             piece.box.add(placed.position.x + c * cornerX - s * cornerY, placed.position.y + s * cornerX + c * cornerY);

@@ -20,6 +20,8 @@ struct Box
     {
         return left <= other.right && other.left <= right && bottom <= other.top && other.bottom <= top;
     }
+    bool contains(double x, double y) const { return left <= x && x <= right && bottom <= y && y <= top; }
+    Box grown(double margin) const { return {left - margin, bottom - margin, right + margin, top + margin}; }
     void add(double x, double y);
     void add(const Box& other);
 };
@@ -33,6 +35,7 @@ struct PlacedText
     OdDbText::HorizontalMode horizontalMode = OdDbText::HorizontalMode::Left;
     OdDbText::VerticalMode verticalMode = OdDbText::VerticalMode::Baseline;
     std::vector<std::wstring> lines;
+    Box extent; ///< roughly, about its position and as if it weren't turned
 };
 
 /// One thing to draw: a chain of points, a point mark (a chain of one), or a text.

@@ -49,6 +49,8 @@ private:
     std::unique_ptr<Pimpl> m_pimpl;
 };
 
+/// The native window of the top-level window around `window`; 0 while there is none.
+std::uintptr_t toplevelWindow(const wxWindow& window);
 /// Makes the window the widget that has its top-level window's focus, without asking the X server for the keyboard.
 void makeFocusWidget(wxWindow& window);
 bool isFocusWidget(const wxWindow& window);

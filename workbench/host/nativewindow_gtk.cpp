@@ -140,6 +140,13 @@ FocusWidgetWatcher::~FocusWidgetWatcher()
         g_signal_handlers_disconnect_by_data(m_pimpl->top, m_pimpl.get());
 }
 
+std::uintptr_t toplevelWindow(const wxWindow& window)
+{
+    GtkWidget* top = toplevelOf(window);
+    GdkWindow* native = top ? gtk_widget_get_window(top) : nullptr;
+    return native ? GDK_WINDOW_XID(native) : 0;
+}
+
 void makeFocusWidget(wxWindow& window)
 {
     if (GtkWidget* top = toplevelOf(window))

@@ -1,10 +1,12 @@
 #include "host/pagegroup.h"
 
 #include "host/pagepanel.h"
+#include "host/pagepopup.h"
 
 #include <QObject>
 
 #include <algorithm>
+#include <utility>
 
 namespace workbench {
 PageGroup::PageGroup()
@@ -16,6 +18,8 @@ PageGroup::~PageGroup() = default;
 
 void PageGroup::setEngine(QQmlEngine* engine)
 {
+    if (m_popup)
+        m_popup->takeDown();
     m_engine = engine;
     for (PagePanel* page : std::vector(m_pages))
         page->reload(0);
@@ -36,6 +40,8 @@ void PageGroup::applyTheme()
 {
     for (PagePanel* page : m_pages)
         page->applyTheme();
+    if (m_popup)
+        m_popup->applyTheme();
 }
 
 void PageGroup::add(PagePanel* page)
@@ -48,14 +54,24 @@ void PageGroup::remove(PagePanel* page)
     std::erase(m_pages, page);
 }
 
+void PageGroup::setPopup(PagePopup* popup)
+{
+    if (PagePopup* former = std::exchange(m_popup, popup))
+        former->takeDown();
+}
+
 void PageGroup::updateBlocking()
 {
+    if (m_popup && (m_busy || m_modals.top()))
+        m_popup->close();
     for (PagePanel* page : m_pages)
         page->updateBlocking();
 }
 
 void PageGroup::reload(int reason)
 {
+    if (m_popup)
+        m_popup->close();
     for (PagePanel* page : std::vector(m_pages))
         page->reload(reason);
 }
@@ -68,6 +84,8 @@ void PageGroup::setAcceleratorTable(const wxAcceleratorTable& table)
 
 QObject* PageGroup::findInTransientPopups(const QString& objectName)
 {
+    if (QObject* object = m_popup ? m_popup->find(objectName) : nullptr)
+        return object;
     for (PagePanel* page : m_pages)
         if (QObject* object = page->findInTransientPopups(objectName))
             return object;

@@ -9,9 +9,10 @@ class QQmlEngine;
 
 namespace workbench {
 class PagePanel;
+class PagePopup;
 
 /// All pages of the program as one: they share the engine, are reloaded together and are blocked by a modal dialog that
-/// they aren't part of.
+/// they aren't part of. A popup closes then, and when the pages are reloaded.
 class PageGroup : public HostPage
 {
 public:
@@ -34,6 +35,10 @@ public:
     void remove(PagePanel* page);
     const std::vector<PagePanel*>& pages() const { return m_pages; }
 
+    /// The popup that has a page, or null. A new one takes the former one down. Not owned.
+    PagePopup* popup() const { return m_popup; }
+    void setPopup(PagePopup* popup);
+
     void reload(int reason) override;
     void setAcceleratorTable(const wxAcceleratorTable& table) override;
     QObject* findInTransientPopups(const QString& objectName) override;
@@ -45,5 +50,6 @@ private:
     ModalStack m_modals;
     bool m_busy = false;
     std::vector<PagePanel*> m_pages; // not owned
+    PagePopup* m_popup = nullptr;    // not owned
 };
 } // namespace workbench

@@ -2,42 +2,18 @@
 
 #include "host/keys.h"
 #include "host/pagegroup.h"
+#include "host/pageloader.h"
 #include "host/pageview.h"
 #include "host/themecolours.h"
 #include "velm/bridge/conversions.h"
-#include "velm/bridge/engine.h"
 
-#include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQmlIncubationController>
 #include <QQuickItem>
 
 #include <wx/toplevel.h>
 
-#include <utility>
-
 namespace workbench {
-namespace {
-/// The page's root, or null and why.
-std::pair<std::unique_ptr<QQuickItem>, QString> create(QQmlEngine& engine, const QUrl& page,
-                                                       const QVariantMap& properties)
-{
-    QQmlComponent component(&engine, page);
-    std::unique_ptr<QObject> object;
-    if (!component.isError())
-        object.reset(component.createWithInitialProperties(properties));
-    if (velm::logErrors(component.errors()) == velm::HasErrors::Yes)
-        return {nullptr, component.errorString().trimmed()};
-    if (auto* item = qobject_cast<QQuickItem*>(object.get())) {
-        object.release();
-        return {std::unique_ptr<QQuickItem>(item), QString()};
-    }
-    const QString reason = QObject::tr("%1: the page isn't an item that can be shown.").arg(page.toString());
-    qCritical("%s", qUtf8Printable(reason));
-    return {nullptr, reason};
-}
-} // namespace
-
 PagePanel::PagePanel(wxWindow* parent, PageGroup& group, const QUrl& page, QObject* controller)
     : wxPanel(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxWANTS_CHARS), m_group(group), m_page(page),
       m_controller(controller), m_view(std::make_unique<PageView>())
@@ -123,7 +99,7 @@ void PagePanel::reload(int)
     QVariantMap properties;
     if (m_controller)
         properties.insert(QStringLiteral("controller"), QVariant::fromValue(m_controller.data()));
-    auto [root, error] = create(*engine, m_page, properties);
+    auto [root, error] = loadPage(*engine, m_page, properties);
     m_error = error;
     if (root)
         m_view->setRoot(std::move(root));
@@ -140,7 +116,7 @@ void PagePanel::showNote()
                                  {QStringLiteral("textColor"), qtGuiColour(ut::EGuiColor::Grey10)},
                                  {QStringLiteral("warningColor"), qtGuiColour(ut::EGuiColor::Red)}};
     m_view->setRoot(
-        create(*m_group.engine(), QUrl(QStringLiteral("qrc:/qt/qml/Workbench/PageNote.qml")), properties).first);
+        loadPage(*m_group.engine(), QUrl(QStringLiteral("qrc:/qt/qml/Workbench/PageNote.qml")), properties).root);
 }
 
 void PagePanel::applyTheme()

@@ -28,6 +28,8 @@ public:
     QVariantList units() const { return m_units; }
     /// In the model and the paper spaces.
     int entityCount() const { return m_entityCount; }
+    /// To call after a change of the drawing.
+    void refresh() { documentBecameCurrent(m_documents.curDocument()); }
 
 Q_SIGNALS:
     void changed();

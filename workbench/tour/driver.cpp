@@ -5,6 +5,7 @@
 #include "command/commandline.h"
 #include "host/pagegroup.h"
 #include "host/pagepanel.h"
+#include "host/pagepopup.h"
 #include "host/pageview.h"
 #include "velm/bridge/conversions.h"
 
@@ -91,24 +92,38 @@ void Driver::waitFor(const QString& what, const std::function<bool()>& condition
     }
 }
 
-QQuickItem* Driver::findItem(const QString& name, PagePanel** panel)
+PagePopup* Driver::popup()
 {
+    PagePopup* popup = m_app.pages().popup();
+    return popup && popup->isOpen() ? popup : nullptr;
+}
+
+QQuickItem* Driver::findItem(const QString& name)
+{
+    if (const PagePopup* open = popup())
+        if (QQuickItem* item = findBelow(open->view()->contentItem(), name))
+            return item;
     for (PagePanel* page : m_app.pages().pages())
         if (page->IsShownOnScreen())
-            if (QQuickItem* item = findBelow(page->view()->contentItem(), name)) {
-                if (panel)
-                    *panel = page;
+            if (QQuickItem* item = findBelow(page->view()->contentItem(), name))
                 return item;
-            }
     return nullptr;
 }
 
-QQuickItem* Driver::needItem(const QString& name, PagePanel** panel)
+QQuickItem* Driver::needItem(const QString& name)
 {
-    QQuickItem* item = findItem(name, panel);
+    QQuickItem* item = findItem(name);
     if (!item)
         throw DriverError(QStringLiteral("there is no item \"%1\" on the screen").arg(name));
     return item;
+}
+
+QPoint Driver::originOf(const QQuickWindow& page)
+{
+    for (const PagePanel* panel : m_app.pages().pages())
+        if (panel->view() == &page)
+            return velm::toQt(panel->ClientToScreen(wxPoint()));
+    return page.position() * page.devicePixelRatio();
 }
 
 bool Driver::hasItem(const QString& name)
@@ -135,21 +150,19 @@ void Driver::clickItem(const QString& name)
     // Where it is now may not be where it stays: a page that was just made is laid out on its first frame.
     QPoint place;
     waitFor(QStringLiteral("the item \"%1\" to be enabled and in its place").arg(name), [&] {
-        PagePanel* panel = nullptr;
-        const QQuickItem* item = findItem(name, &panel);
+        const QQuickItem* item = findItem(name);
         if (!item || !item->isEnabled() || item->width() <= 0)
             return false;
         const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
-        const QPoint now =
-            velm::toQt(panel->ClientToScreen(wxPoint())) + (centre * panel->view()->devicePixelRatio()).toPoint();
+        const QPoint now = originOf(*item->window()) + (centre * item->window()->devicePixelRatio()).toPoint();
         return std::exchange(place, now) == now;
     });
     click(place);
 }
 
-void Driver::click(QPoint screen)
+void Driver::click(QPoint screen, int button)
 {
-    xdotool({"mousemove", QString::number(screen.x()), QString::number(screen.y()), "click", "1"});
+    xdotool({"mousemove", QString::number(screen.x()), QString::number(screen.y()), "click", QString::number(button)});
 }
 
 QRect Driver::rectOf(wxWindow& window)
@@ -225,6 +238,33 @@ QString Driver::dialogText()
     });
 }
 
+void Driver::openMenu(QPoint screen)
+{
+    click(screen, 3);
+    waitFor("a menu with the keyboard", [&] {
+        // At first the popup has the shape of a single pixel.
+        return popup() && popup()->view()->isActive() && popup()->view()->mask().boundingRect().width() > 1;
+    });
+}
+
+bool Driver::hasMenu()
+{
+    return ask([&] { return popup() != nullptr; });
+}
+
+void Driver::waitForNoMenu()
+{
+    waitFor("no menu", [&] { return popup() == nullptr; });
+}
+
+QRegion Driver::menuShape()
+{
+    return ask([&] {
+        const PageView* view = popup() ? popup()->view() : nullptr;
+        return view ? view->mask().translated(view->position()) : QRegion();
+    });
+}
+
 QImage Driver::picture()
 {
     // Two frames of every page: the first takes over what changed, the second shows that it reached the screen.
@@ -234,6 +274,8 @@ QImage Driver::picture()
                 page->view()->update();
                 page->Update();
             }
+        if (const PagePopup* open = popup())
+            open->view()->update();
     });
     return ask([] { return QGuiApplication::primaryScreen()->grabWindow(0).toImage(); });
 }

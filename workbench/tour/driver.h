@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QRect>
+#include <QRegion>
 #include <QString>
 #include <QStringList>
 
@@ -12,10 +13,11 @@
 #include <type_traits>
 
 class QQuickItem;
+class QQuickWindow;
 class wxTopLevelWindow;
 
 namespace workbench {
-class PagePanel;
+class PagePopup;
 class WorkbenchApp;
 
 /// What a step expected and didn't find.
@@ -56,14 +58,15 @@ public:
     /// Waits until the condition, asked on the program's thread, holds.
     void waitFor(const QString& what, const std::function<bool()>& condition, int milliseconds = 10000);
 
-    // Items of pages by their object names. The item is awaited, in any page that is on the screen.
+    // Items of pages by their object names. The item is awaited, in the open popup or any page that is
+    // on the screen.
     bool hasItem(const QString& name);
     QVariant property(const QString& name, const char* property);
     void clickItem(const QString& name);
     /// Whether the item or what is in it has the keyboard.
     bool itemHasFocus(const QString& name);
 
-    void click(QPoint screen);
+    void click(QPoint screen, int button = 1);
     void click(wxWindow& window);
     /// The window's place on the screen, in pixels.
     QRect rectOf(wxWindow& window);
@@ -82,6 +85,13 @@ public:
     /// All static texts of the innermost dialog, a line each.
     QString dialogText();
 
+    /// Presses the right mouse button there and waits for a menu with the keyboard.
+    void openMenu(QPoint screen);
+    bool hasMenu();
+    void waitForNoMenu();
+    /// What the open menus cover of the screen; empty without one.
+    QRegion menuShape();
+
     /// A picture of the whole screen, once the program has drawn what was asked of it.
     bool savePicture(const QString& file);
     QImage picture();
@@ -89,8 +99,11 @@ public:
 private:
     void invoke(const std::function<void()>& function);
     void xdotool(const QStringList& arguments);
-    QQuickItem* findItem(const QString& name, PagePanel** panel = nullptr);
-    QQuickItem* needItem(const QString& name, PagePanel** panel = nullptr);
+    /// Null when none is open.
+    PagePopup* popup();
+    QQuickItem* findItem(const QString& name);
+    QQuickItem* needItem(const QString& name);
+    QPoint originOf(const QQuickWindow& page);
 
     WorkbenchApp& m_app;
 };

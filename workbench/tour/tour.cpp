@@ -46,9 +46,12 @@ private:
     void waitForLog(const QString& text);
     void showTab(int tab);
     QString layerName(int row);
+    QPoint placeOfAnEntity();
 
     void openDrawing();
     void switchLayer();
+    void openContextMenu();
+    void showGrid();
     void showDrawingPanel();
     void showBrokenPage();
     void startRenaming();
@@ -123,6 +126,47 @@ void Tour::switchLayer()
     save("a-layer-switched-off");
     m_driver.clickItem("on:" + layerName(1));
     m_driver.waitFor("all entities on the canvas", [&] { return m_frame.canvas().drawnEntityCount() == before; });
+}
+
+/// On the screen, where a menu has room within the window.
+QPoint Tour::placeOfAnEntity()
+{
+    const QRect canvas = m_driver.rectOf(m_frame.canvas());
+    const QPoint wanted(canvas.width() / 3, canvas.height() / 5);
+    return m_driver.ask([&] {
+        QPoint nearest(-canvas.width(), 0);
+        for (int y = 0; y < canvas.height(); y += 4)
+            for (int x = 0; x < canvas.width(); x += 4)
+                if ((QPoint(x, y) - wanted).manhattanLength() < (nearest - wanted).manhattanLength() &&
+                    !m_frame.canvas().entityAt(wxPoint(x, y)).isNull())
+                    nearest = QPoint(x, y);
+        return canvas.topLeft() + nearest;
+    });
+}
+
+void Tour::openContextMenu()
+{
+    const QPoint place = placeOfAnEntity();
+    m_driver.click(place);
+    m_driver.waitFor("an entity to be selected", [&] { return !m_frame.selection().current().isNull(); });
+    save("entity-selected");
+    m_driver.openMenu(place);
+    const QRegion menu = m_driver.menuShape();
+    m_driver.key("l");
+    m_driver.waitFor("the layers in a sub-menu", [&] { return m_driver.menuShape() != menu; });
+    m_driver.ask([&] { m_frame.session().setTheme(ut::EGuiColorTheme::Light); });
+    save("context-menu-light");
+    check(m_driver.hasMenu(), "the menu stays open when the colours change");
+    m_driver.ask([&] { m_frame.session().setTheme(ut::EGuiColorTheme::Dark); });
+}
+
+void Tour::showGrid()
+{
+    m_driver.key("Left");
+    m_driver.key("g");
+    m_driver.waitFor("the grid", [&] { return m_frame.canvas().isGridShown(); });
+    m_driver.waitForNoMenu();
+    waitForLog("> GRID");
 }
 
 void Tour::showDrawingPanel()
@@ -220,6 +264,7 @@ int Tour::run(bool hasDrawing)
     m_hasDrawing = hasDrawing;
     const std::pair<const char*, void (Tour::*)()> steps[] = {
         {"open-drawing", &Tour::openDrawing},       {"layers-panel", &Tour::switchLayer},
+        {"context-menu", &Tour::openContextMenu},   {"grid", &Tour::showGrid},
         {"drawing-panel", &Tour::showDrawingPanel}, {"broken-page", &Tour::showBrokenPage},
         {"name-refused", &Tour::refuseName},        {"name-accepted", &Tour::acceptName},
         {"dark-theme", &Tour::switchTheme},         {"damaged-drawing-refused", &Tour::refuseDrawing},

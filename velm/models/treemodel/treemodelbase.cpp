@@ -94,15 +94,15 @@ bool TreeModelBase::deleteItem(const QModelIndex& parent, const QModelIndex& chi
         warnOfMissingChild();
         return false;
     }
-    return removeRow(parent, row);
+    return removeAt(parent, row);
 }
 
 bool TreeModelBase::deleteItem(const QModelIndex& parent, int row)
 {
-    return removeRow(parent, row);
+    return removeAt(parent, row);
 }
 
-bool TreeModelBase::removeRow(const QModelIndex& parent, int row)
+bool TreeModelBase::removeAt(const QModelIndex& parent, int row)
 {
     TreeItemBase* item = getTreeItemOrRoot(parent);
     if (!item || !item->child(row))

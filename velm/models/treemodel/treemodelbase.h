@@ -151,7 +151,7 @@ protected:
     void signalChange(const QModelIndex& index, const QList<int>& roles = {});
 
 private:
-    bool removeRow(const QModelIndex& parent, int row);
+    bool removeAt(const QModelIndex& parent, int row);
 
     TreeItemBase& m_root; // not owned
     bool m_inBatch = false;

@@ -1,0 +1,224 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Tandolin
+import Tandolin.API.Controls
+import Tandolin.API.Core.Themes
+
+// One property of a PropertyList: its label and its editor.
+FocusScope {
+    id: row
+
+    required property int index
+    property var list
+    // What the model says of the property: read anew when it tells of a change.
+    property var entry: list.read(index)
+    readonly property real wantedLabelWidth: label.implicitWidth
+
+    // A new object, so that every editor shows it, also when the value is the one that was read before.
+    function refresh() {
+        entry = list.read(index);
+    }
+
+    function commit(value) {
+        if (value !== entry.value)
+            list.commit(index, value);
+    }
+
+    // The text in the type that the property has.
+    function commitText(text: string) {
+        if (typeof entry.value !== "number")
+            commit(text);
+        else if (text.trim() !== "" && Number.isInteger(Number(text)))
+            commit(Number(text));
+        else
+            refresh();
+    }
+
+    implicitHeight: Math.max(Metrics.rowHeight, editor.implicitHeight)
+
+    HoverHandler {
+        id: hover
+    }
+    ToolTip.text: entry.toolTip
+    ToolTip.visible: Settings.tooltips && hover.hovered && entry.toolTip !== ""
+    ToolTip.delay: Settings.tooltipDelay
+
+    Label {
+        id: label
+
+        y: Math.round((Math.min(row.height, Metrics.controlHeight) - height) / 2)
+        width: row.list.labelWidth
+        text: row.entry.label
+        elide: Text.ElideRight
+    }
+    RowLayout {
+        id: editor
+
+        x: row.list.labelWidth + Metrics.padding
+        width: row.width - x
+        spacing: 4
+
+        Loader {
+            Layout.fillWidth: true
+            sourceComponent: {
+                switch (row.entry.kind) {
+                case "combo":
+                    return combo;
+                case "check":
+                    return check;
+                case "switch":
+                    return toggle;
+                case "image":
+                    return image;
+                default:
+                    return field;
+                }
+            }
+        }
+        Button {
+            objectName: "more"
+            visible: row.entry.hasButton && row.entry.kind !== "image"
+            implicitWidth: Metrics.controlHeight + 4
+            text: "..."
+            Accessible.name: row.entry.label
+            onClicked: row.list.model.loadFile(row.index)
+        }
+    }
+
+    // qmllint disable unqualified
+    Component {
+        id: combo
+
+        ComboBox {
+            id: box
+
+            // The choices first: they have a say in which index is possible.
+            function show() {
+                model = row.entry.choices;
+                currentIndex = row.entry.value;
+            }
+
+            objectName: "editor"
+            enabled: !row.entry.readOnly
+            Accessible.name: row.entry.label
+            onActivated: index => row.commit(index)
+            Component.onCompleted: show()
+
+            Connections {
+                target: row
+
+                function onEntryChanged() {
+                    box.show();
+                }
+            }
+        }
+    }
+    Component {
+        id: check
+
+        CheckBox {
+            objectName: "editor"
+            enabled: !row.entry.readOnly
+            checked: row.entry.value
+            Accessible.name: row.entry.label
+            onToggled: row.commit(row.entry.isBool ? checked : Number(checked))
+        }
+    }
+    Component {
+        id: toggle
+
+        Switch {
+            objectName: "editor"
+            enabled: !row.entry.readOnly
+            checked: row.entry.value
+            Accessible.name: row.entry.label
+            onToggled: row.commit(row.entry.isBool ? checked : Number(checked))
+        }
+    }
+    Component {
+        id: field
+
+        TextField {
+            id: edit
+
+            readonly property string stored: String(row.entry.value)
+
+            function show() {
+                text = stored;
+                cursorPosition = 0;
+            }
+
+            function finish(event) {
+                // Without a change Enter is the dialog's.
+                event.accepted = text !== stored;
+                row.commitText(text);
+            }
+
+            objectName: "editor"
+            readOnly: row.entry.readOnly
+            Accessible.name: row.entry.label
+            Component.onCompleted: show()
+            onActiveFocusChanged: {
+                if (!activeFocus && text !== stored)
+                    row.commitText(text);
+            }
+            Keys.onReturnPressed: event => finish(event)
+            Keys.onEnterPressed: event => finish(event)
+            Keys.onEscapePressed: event => {
+                event.accepted = text !== stored;
+                show();
+            }
+
+            Connections {
+                target: row
+
+                function onEntryChanged() {
+                    edit.show();
+                }
+            }
+        }
+    }
+    Component {
+        id: image
+
+        RowLayout {
+            spacing: 4
+
+            Rectangle {
+                implicitWidth: 2 * Metrics.rowHeight
+                implicitHeight: 2 * Metrics.rowHeight
+                radius: Metrics.radius
+                color: Colors.input
+                border.color: Colors.outline
+
+                Image {
+                    objectName: "preview"
+                    anchors.fill: parent
+                    anchors.margins: 2
+                    fillMode: Image.PreserveAspectFit
+                    sourceSize.width: width
+                    sourceSize.height: height
+                    source: Icons.source(row.entry.value)
+                }
+            }
+            IconButton {
+                objectName: "pick"
+                enabled: !row.entry.readOnly
+                mark: "folder"
+                text: qsTr("Choose an image")
+                onClicked: row.list.model.pickImage(row.index)
+            }
+            IconButton {
+                objectName: "delete"
+                enabled: !row.entry.readOnly && row.entry.value !== ""
+                mark: "delete"
+                text: qsTr("Remove the image")
+                onClicked: row.list.model.deleteImage(row.index)
+            }
+            Item {
+                Layout.fillWidth: true
+            }
+        }
+    }    // qmllint enable unqualified
+}

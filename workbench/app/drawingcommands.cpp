@@ -1,0 +1,65 @@
+#include "app/drawingcommands.h"
+
+#include "app/mainframe.h"
+#include "command/commandline.h"
+#include "drawing/drawingcanvas.h"
+#include "drawing/entitykind.h"
+#include "od/oddbdatabase.h"
+
+namespace workbench {
+namespace {
+void eraseSelected(MainFrame& frame)
+{
+    auto* entity = frame.selection().current().open<OdDbEntity>();
+    if (!entity) {
+        frame.commandLine().log(_("Nothing is selected. A click on the drawing selects."));
+        return;
+    }
+    const wxString kind = entityKind(*entity);
+    entity->erase();
+    frame.selection().clear();
+    frame.drawingChanged();
+    frame.commandLine().log(wxString::Format(_("Erased: %s"), kind));
+}
+
+void setCurrentLayer(MainFrame& frame, const wxString& name)
+{
+    OdApDocument* document = frame.documents().current();
+    if (!document) {
+        frame.commandLine().log(_("No drawing is open."));
+        return;
+    }
+    OdDbDatabase* database = document->database();
+    if (!name.empty()) {
+        const OdDbLayerTableRecord* layer = database->findLayer(name.wc_str());
+        if (!layer) {
+            frame.commandLine().log(wxString::Format(_("The drawing has no layer \"%s\"."), name));
+            return;
+        }
+        database->setCurrentLayer(layer->objectId());
+    }
+    if (const auto* current = database->currentLayer().open<OdDbLayerTableRecord>())
+        frame.commandLine().log(wxString::Format(_("Current layer: %s"), current->getName().c_str()));
+}
+} // namespace
+
+void addDrawingCommands(Commands& commands, MainFrame& frame)
+{
+    const auto log = [&frame](const wxString& text) { frame.commandLine().log(text); };
+    commands.add("ZOOM", _("Shows the whole drawing"), [&frame](const wxString&) { frame.canvas().zoomExtents(); });
+    commands.add("GRID", _("Shows or hides a grid on the drawing"), [&frame, log](const wxString&) {
+        DrawingCanvas& canvas = frame.canvas();
+        canvas.showGrid(!canvas.isGridShown());
+        log(canvas.isGridShown() ? _("Grid on") : _("Grid off"));
+    });
+    commands.add("SNAP", _("Keeps the cursor's coordinates to the grid, or frees them"),
+                 [&frame, log](const wxString&) {
+                     DrawingCanvas& canvas = frame.canvas();
+                     canvas.setSnapping(!canvas.isSnapping());
+                     log(canvas.isSnapping() ? _("Snap on") : _("Snap off"));
+                 });
+    commands.add("LAYER", _("Makes a layer the current one: LAYER name, or LAYER alone to tell which it is"),
+                 [&frame](const wxString& name) { setCurrentLayer(frame, name); });
+    commands.add("ERASE", _("Erases the selected entity"), [&frame](const wxString&) { eraseSelected(frame); });
+}
+} // namespace workbench
