@@ -2,24 +2,26 @@
 
 #include <QMessageLogger>
 
-#include <algorithm>
+#include <utility>
 
 namespace velm {
 TreeItemBase::~TreeItemBase()
 {
-    qDeleteAll(m_children);
+    clearChildren();
 }
 
 void TreeItemBase::numberChildren() const
 {
     for (int row = 0; row < childCount(); ++row)
-        m_children.at(row)->m_row = row;
+        child(row)->m_row = row;
 }
 
 int TreeItemBase::findChild(const TreeItemBase* child) const
 {
-    const auto found = std::find(m_children.begin(), m_children.end(), child);
-    return found == m_children.end() ? -1 : static_cast<int>(found - m_children.begin());
+    for (int row = 0; row < childCount(); ++row)
+        if (this->child(row) == child)
+            return row;
+    return -1;
 }
 
 TreeItemBase* TreeItemBase::insertChild(int row, std::unique_ptr<TreeItemBase> item)
@@ -30,7 +32,9 @@ TreeItemBase* TreeItemBase::insertChild(int row, std::unique_ptr<TreeItemBase> i
     }
     item->m_parent = this;
     item->m_row = row;
-    m_children.insert(row, item.get());
+    if (!m_children)
+        m_children = std::make_unique<QList<TreeItemBase*>>();
+    m_children->insert(row, item.get());
     return item.release();
 }
 
@@ -38,7 +42,7 @@ std::unique_ptr<TreeItemBase> TreeItemBase::takeChild(int row)
 {
     if (!child(row))
         return nullptr;
-    std::unique_ptr<TreeItemBase> taken(m_children.takeAt(row));
+    std::unique_ptr<TreeItemBase> taken(m_children->takeAt(row));
     taken->m_parent = nullptr;
     return taken;
 }
@@ -46,6 +50,7 @@ std::unique_ptr<TreeItemBase> TreeItemBase::takeChild(int row)
 void TreeItemBase::clearChildren()
 {
     // Whatever dies here must not find itself in the tree any more.
-    qDeleteAll(std::exchange(m_children, {}));
+    if (const auto former = std::exchange(m_children, nullptr))
+        qDeleteAll(*former);
 }
 } // namespace velm

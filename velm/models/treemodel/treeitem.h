@@ -21,9 +21,9 @@ public:
     TreeItemBase& operator=(const TreeItemBase&) = delete;
 
     TreeItemBase* parent() const { return m_parent; }
-    int childCount() const { return static_cast<int>(m_children.size()); }
+    int childCount() const { return m_children ? static_cast<int>(m_children->size()) : 0; }
     /// Null for a row that doesn't exist.
-    TreeItemBase* child(int row) const { return row >= 0 && row < childCount() ? m_children.at(row) : nullptr; }
+    TreeItemBase* child(int row) const { return row >= 0 && row < childCount() ? m_children->at(row) : nullptr; }
     /// The row of one of the children; 0 for another item.
     int rowOfChild(const TreeItemBase* child) const
     {
@@ -46,7 +46,9 @@ private:
     void numberChildren() const;
 
     TreeItemBase* m_parent = nullptr; // not owned
-    QList<TreeItemBase*> m_children;  // owned; no vector, which would move all rows for an insert in front of them
+    // The children are owned; null until there are any, since most nodes of a tree have none. No vector, which would
+    // move all rows for an insert in front of them.
+    std::unique_ptr<QList<TreeItemBase*>> m_children;
     int m_row = 0;
 
 public: // here, where they take no room
