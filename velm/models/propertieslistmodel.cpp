@@ -99,6 +99,7 @@ QVariant PropertiesListModel::property(const QString& label) const
 
 int PropertiesListModel::rowCount(const QModelIndex&) const
 {
+    // Below a row, too. This must stay.
     return static_cast<int>(m_props.size());
 }
 

@@ -61,7 +61,7 @@ public:
         m_items.insert(m_items.begin() + row, std::move(value));
         endInsertRows();
     }
-    /// The row isn't tested: it must be one from 0 to size().
+    /// Unlike a single value's, the row isn't tested: it must be one from 0 to size(). This must stay.
     void insert(int row, std::vector<T>&& values)
     {
         if (values.empty())
@@ -77,7 +77,10 @@ public:
     {
         if (first < 0 || first >= size() || count < 1)
             return;
-        removeRange(first, std::min(size() - first, count));
+        const int behind = first + std::min(size() - first, count);
+        beginRemoveRows(QModelIndex(), first, behind - 1);
+        m_items.erase(m_items.begin() + first, m_items.begin() + behind);
+        endRemoveRows();
     }
 
     /// Puts the rows first to last before the row that now is dest; false, with no signal, when nothing would change.
@@ -93,14 +96,19 @@ public:
         endMoveRows();
         return true;
     }
-    /// Puts the rows into another model, as a removal here and an insert there. dest must not be negative.
+    /// Puts the rows into another model, as a removal here and an insert there. dest must not be negative. A first row
+    /// just behind the last one is announced as a removal of no row. This must stay.
     void move(int first, int last, GenericListModel<T>& other, int dest)
     {
-        if (first < 0 || first > last || last >= size() || dest > other.rowCount(QModelIndex()))
+        const bool fits = first >= 0 && first < size() && last >= 0 && last < size() && first <= last + 1;
+        if (!fits || dest > other.rowCount(QModelIndex()))
             return;
-        const auto begin = m_items.begin();
-        std::vector<T> moved(std::make_move_iterator(begin + first), std::make_move_iterator(begin + last + 1));
-        removeRange(first, last - first + 1);
+        beginRemoveRows(QModelIndex(), first, last);
+        const auto begin = m_items.begin() + first;
+        const auto end = m_items.begin() + last + 1;
+        std::vector<T> moved(std::make_move_iterator(begin), std::make_move_iterator(end));
+        m_items.erase(begin, end);
+        endRemoveRows();
         other.insert(dest, std::move(moved));
     }
 
@@ -137,12 +145,6 @@ private:
         (*this)[row] = std::forward<Value>(value);
         const QModelIndex changed = index(row, 0, QModelIndex());
         Q_EMIT dataChanged(changed, changed, roles);
-    }
-    void removeRange(int first, int count)
-    {
-        beginRemoveRows(QModelIndex(), first, first + count - 1);
-        m_items.erase(m_items.begin() + first, m_items.begin() + first + count);
-        endRemoveRows();
     }
     std::optional<int> rowOf(typename std::vector<T>::const_iterator place) const
     {

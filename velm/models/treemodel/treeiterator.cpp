@@ -21,8 +21,10 @@ void TreeIterator::pushChildren(const QModelIndex& parent)
 
 TreeIterator& TreeIterator::operator++()
 {
-    const QModelIndex passed = **this;
-    skipChildren();
+    if (m_stack.empty())
+        return *this;
+    const QModelIndex passed = m_stack.back();
+    m_stack.pop_back();
     if (passed.isValid())
         pushChildren(passed);
     return *this;

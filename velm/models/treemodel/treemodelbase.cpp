@@ -26,27 +26,6 @@ TreeModelBase::TreeModelBase(QObject* parent, TreeItemBase& root) : QAbstractIte
 
 TreeModelBase::~TreeModelBase() = default;
 
-TreeItemBase* TreeModelBase::getTreeItem(const QModelIndex& index)
-{
-    return index.isValid() ? static_cast<TreeItemBase*>(index.internalPointer()) : nullptr;
-}
-
-TreeItemBase* TreeModelBase::getTreeItemOrRoot(const QModelIndex& index) const
-{
-    return index.isValid() ? getTreeItem(index) : &m_root;
-}
-
-QModelIndex TreeModelBase::createItemIndex(int row, int column, const TreeItemBase* item) const
-{
-    return item && item != &m_root ? createIndex(row, column, item) : QModelIndex();
-}
-
-QModelIndex TreeModelBase::createItemIndex(const TreeItemBase* item) const
-{
-    const TreeItemBase* parent = item ? item->parent() : nullptr;
-    return parent ? createItemIndex(parent->rowOfChild(item), 0, item) : QModelIndex();
-}
-
 QModelIndex TreeModelBase::index(int row, int column, const QModelIndex& parent) const
 {
     if (parent.isValid() && parent.column() != 0)

@@ -121,12 +121,26 @@ protected:
     /// The root is not owned and not touched at the end of the model's life.
     TreeModelBase(QObject* parent, TreeItemBase& root);
 
+    // Inline, since views and walks ask for little else.
     /// Null for an invalid index.
-    static TreeItemBase* getTreeItem(const QModelIndex& index);
-    TreeItemBase* getTreeItemOrRoot(const QModelIndex& index) const;
+    static TreeItemBase* getTreeItem(const QModelIndex& index)
+    {
+        return index.isValid() ? static_cast<TreeItemBase*>(index.internalPointer()) : nullptr;
+    }
+    TreeItemBase* getTreeItemOrRoot(const QModelIndex& index) const
+    {
+        return index.isValid() ? static_cast<TreeItemBase*>(index.internalPointer()) : &m_root;
+    }
     // Both invalid for a null item and for the root.
-    QModelIndex createItemIndex(int row, int column, const TreeItemBase* item) const;
-    QModelIndex createItemIndex(const TreeItemBase* item) const;
+    QModelIndex createItemIndex(int row, int column, const TreeItemBase* item) const
+    {
+        return item && item != &m_root ? createIndex(row, column, item) : QModelIndex();
+    }
+    QModelIndex createItemIndex(const TreeItemBase* item) const
+    {
+        const TreeItemBase* parent = item ? item->parent() : nullptr;
+        return parent ? createIndex(parent->rowOfChild(item), 0, item) : QModelIndex();
+    }
 
     /// The row isn't tested before it is announced.
     QModelIndex insertNode(const QModelIndex& parent, int row, std::unique_ptr<TreeItemBase> item);

@@ -1,0 +1,9 @@
+#include "bench/comparison.h"
+
+int main(int argc, char** argv)
+{
+    velmbench::addTreeModels();
+    velmbench::addListModels();
+    velmbench::runComparisons(argc, argv);
+    return 0;
+}
