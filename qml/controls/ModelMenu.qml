@@ -28,7 +28,7 @@ Menu {
         const rows = control.model.rowCount(index);
         return {
             kind: type === "separator" || type === "title" ? type : rows > 0 || type === "submenu" ? "submenu" : "text",
-            text: value(256) ?? "",
+            text: type === "title" ? control.model.getMenuItemLabelText(index) : value(256) ?? "",
             tooltip: value(3) ?? "",
             named: (value(258) ?? value(257) ?? "") !== "",
             picture: Icons.source(value(258) ?? value(257)),
@@ -79,7 +79,7 @@ Menu {
         if (entry.kind === "separator") {
             addItem(separator.createObject(null));
         } else if (entry.kind === "title") {
-            addItem(caption.createObject(null, {text: entry.text.replace(/&/g, "")}));
+            addItem(caption.createObject(null, {text: entry.text}));
         } else if (entry.kind === "submenu") {
             // The type can't name itself.
             const menu = Qt.createComponent(Qt.resolvedUrl("ModelMenu.qml")).createObject(control, {

@@ -239,5 +239,6 @@ FocusScope {
                 Layout.fillWidth: true
             }
         }
-    }    // qmllint enable unqualified
+    }
+    // qmllint enable unqualified
 }

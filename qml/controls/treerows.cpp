@@ -258,7 +258,9 @@ void TreeRows::signalBranch(const QModelIndex& index)
 
 void TreeRows::onDataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight, const QList<int>& roles)
 {
-    if (m_resetting || !topLeft.isValid() || topLeft.column() > 0)
+    // A proxy may tell of rows that it doesn't show.
+    if (m_resetting || topLeft.column() > 0 || !topLeft.isValid() ||
+        m_source->index(topLeft.row(), 0, topLeft.parent()) != topLeft)
         return;
     if (roles.isEmpty() || roles.contains(openRole)) {
         for (int row = topLeft.row(); row <= bottomRight.row(); ++row) {

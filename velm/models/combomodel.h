@@ -56,7 +56,7 @@ public:
     QString getTextRole() const;
 
     using GenericListModel::data;
-    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     QHash<int, QByteArray> roleNames() const override;
 };
 } // namespace velm

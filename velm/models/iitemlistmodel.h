@@ -32,8 +32,6 @@ public:
         ActionsRole = 11,
     };
 
-    virtual ~IItemListModel();
-
     virtual QString getName(int row) const = 0;
     virtual QString getLeftIconSource(int row) const;
     virtual QString getRightIconSource(int row) const;
@@ -49,6 +47,8 @@ public:
     virtual bool setShowNameEdit(int row, bool show);
     virtual bool setName(int row, const QString& name);
     virtual bool setChecked(int row, bool checked);
+    /// Behind the operations, so that they are the first.
+    virtual ~IItemListModel();
 
     QHash<int, QByteArray> getItemRoleNames() const;
     /// Empty for a role that nobody has.

@@ -12,8 +12,6 @@ class MenuModel;
 class VELM_EXPORT IListItem
 {
 public:
-    virtual ~IListItem();
-
     virtual QString getName() const = 0;
     virtual QString getLeftIconSource() const;
     virtual QString getRightIconSource() const;
@@ -29,5 +27,7 @@ public:
     virtual bool setShowNameEdit(bool show);
     virtual bool setName(const QString& name);
     virtual bool setChecked(bool checked);
+    /// Behind the operations, so that they are the first.
+    virtual ~IListItem();
 };
 } // namespace velm

@@ -29,7 +29,7 @@ public:
     /// A separator.
     MenuData();
     /// An empty type means that of an entry. An entry that isn't checkable isn't checked either.
-    MenuData(const QString& text, Command command, const QString& type = {}, const QString& tooltip = {},
+    MenuData(const QString& text, Command command = {}, const QString& type = {}, const QString& tooltip = {},
              const QString& icon = {}, EFlags flags = Enabled, const QVariant& userData = {}, Update update = {});
     ~MenuData();
     /// The copy has an image of its own.
@@ -53,6 +53,7 @@ public:
     {
         return static_cast<EFlags>(static_cast<int>(left) | static_cast<int>(right));
     }
+    friend constexpr EFlags& operator|=(EFlags& left, EFlags right) { return left = left | right; }
 
     void setEnabled(bool enabled) { setFlag(Enabled, enabled); }
     bool isEnabled() const { return (flags & Enabled) != 0; }

@@ -33,7 +33,7 @@ public:
     QVariant dataImpl(const QModelIndex& index, int role) const override;
     QHash<int, QByteArray> customRoleNames() const override;
 
-    // Runs the row's command. The command may rebuild the menu.
+    // Runs the row's command. The command may rebuild the menu, or destroy it.
     Q_SLOT virtual void menuItemTriggered(const QModelIndex& modelIndex);
     /// Brings all rows up to date, before the menu opens.
     virtual void updateState();

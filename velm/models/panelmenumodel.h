@@ -36,12 +36,13 @@ public:
     ~PanelMenuModel() override;
 
     using GenericListModel::data;
-    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     QHash<int, QByteArray> roleNames() const override;
 
 public Q_SLOTS:
     /// Runs the action, then turns the mark of a checkable entry around, without a signal: the action is expected to
-    /// refresh the menu. An empty action throws std::bad_function_call; a bad index does nothing.
+    /// refresh the menu, but later, since the mark that stands at the index after it is the one that turns. An empty
+    /// action throws std::bad_function_call; a bad index does nothing.
     void menuItemClicked(int index);
 };
 } // namespace velm

@@ -24,16 +24,21 @@ int PrunedTreeModel::rowCount(const QModelIndex& parent) const
 
 void PrunedTreeModel::setSourceModel(QAbstractItemModel* source)
 {
-    if (sourceModel())
-        sourceModel()->disconnect(this);
+    const auto disconnectRows = [this](QAbstractItemModel* model) {
+        disconnect(model, &QAbstractItemModel::rowsAboutToBeInserted, this, nullptr);
+        disconnect(model, &QAbstractItemModel::rowsInserted, this, nullptr);
+        disconnect(model, &QAbstractItemModel::rowsAboutToBeRemoved, this, nullptr);
+        disconnect(model, &QAbstractItemModel::rowsRemoved, this, nullptr);
+    };
+    if (sourceModel()) {
+        disconnectRows(sourceModel());
+        disconnect(sourceModel(), &QAbstractItemModel::modelReset, this, &PrunedTreeModel::countChanged);
+    }
     QIdentityProxyModel::setSourceModel(source);
     if (!source)
         return;
     // The base would hand on the rows of the whole source.
-    disconnect(source, &QAbstractItemModel::rowsAboutToBeInserted, this, nullptr);
-    disconnect(source, &QAbstractItemModel::rowsInserted, this, nullptr);
-    disconnect(source, &QAbstractItemModel::rowsAboutToBeRemoved, this, nullptr);
-    disconnect(source, &QAbstractItemModel::rowsRemoved, this, nullptr);
+    disconnectRows(source);
     connect(source, &QAbstractItemModel::rowsAboutToBeInserted, this, &PrunedTreeModel::onSourceRowsAboutToBeInserted);
     connect(source, &QAbstractItemModel::rowsInserted, this, &PrunedTreeModel::onSourceRowsInserted);
     connect(source, &QAbstractItemModel::rowsAboutToBeRemoved, this, &PrunedTreeModel::onSourceRowsAboutToBeRemoved);

@@ -8,8 +8,10 @@
 namespace velm {
 /// Shows one branch of a source tree as if that branch were the whole model: the children of rootIndex() are the
 /// top-level rows. Moving the root navigates without copying data.
-/// Supported: row inserts and removals below the root. Not supported: moves and column changes of the source. The rows
-/// are not signalled anew when the root's own row goes: the model then stands for the source's top level.
+/// Supported: row inserts and removals below the root. Not supported: moves, layout and column changes of the source.
+/// Changed data is handed on for rows beside the branch, too, and hasChildren() of the invalid index is that of the
+/// source. The rows are not signalled anew when the root's own row goes: the model then stands for the source's top
+/// level.
 class VELM_EXPORT PrunedTreeModel : public QIdentityProxyModel
 {
     Q_OBJECT

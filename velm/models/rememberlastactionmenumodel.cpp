@@ -1,5 +1,7 @@
 #include "velm/models/rememberlastactionmenumodel.h"
 
+#include <QPointer>
+
 namespace velm {
 RememberLastActionMenuModel::RememberLastActionMenuModel() = default;
 
@@ -7,7 +9,10 @@ RememberLastActionMenuModel::~RememberLastActionMenuModel() = default;
 
 void RememberLastActionMenuModel::menuItemTriggered(const QModelIndex& index)
 {
+    const QPointer<RememberLastActionMenuModel> self(this);
     MenuModel::menuItemTriggered(index);
+    if (!self)
+        return;
     m_lastAction = index;
     Q_EMIT lastActionChanged();
 }

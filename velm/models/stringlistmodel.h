@@ -16,10 +16,11 @@ public:
 
     /// Empty for a row that doesn't exist.
     QString data(int row) const;
+    /// In place of the one with roles, which isn't meant for strings.
     void update(int row, const QString& text);
 
     using GenericListModel::data;
-    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     QHash<int, QByteArray> roleNames() const override;
 };
 } // namespace velm

@@ -29,8 +29,8 @@ void CanvasMenu::fillMenu(IDynamicMenu& menu)
         entity != nullptr);
     menu.addMenuSeparator();
     add(menu, _("&Zoom extents"), "ZOOM", hasDrawing);
-    add(menu, _("&Grid"), "GRID", true, isGridShown() ? On : Off);
-    add(menu, _("&Snap"), "SNAP", true, isSnapping() ? On : Off);
+    add(menu, _("&Grid"), "GRID", true, isGridShown && isGridShown() ? On : Off);
+    add(menu, _("&Snap"), "SNAP", true, isSnapping && isSnapping() ? On : Off);
     menu.addMenuSeparator();
     if (hasDrawing)
         addLayers(menu);

@@ -55,7 +55,7 @@ public:
     bool showsEmpty() const { return m_showsEmpty; }
     /// How many entities get a row before the rest is summed up, in all containers together.
     void setEntityBudget(std::size_t budget) { m_budget = budget; }
-    /// At least so many entities of a container get rows from the next build on, as long as the drawing stays.
+    /// At least so many entities of a container get rows from the next build on, as long as the drawing stays open.
     void want(OdDbObjectId container, std::size_t count);
 
     /// Invalid when there is no such row.

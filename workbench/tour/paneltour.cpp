@@ -145,6 +145,7 @@ void PanelTour::editProperty()
                        list->data(list->index(row), PropertiesListModel::ValueRole).toInt();
         return 0;
     });
+    const int rows = m_driver.property("structure", "count").toInt();
     m_driver.clickItem("property:Colour");
     m_save("colours-to-choose");
     // The mouse lies over the choices; without them the arrows go through all in turn.
@@ -153,6 +154,8 @@ void PanelTour::editProperty()
         m_driver.key(wanted > 0 ? "Down" : "Up");
     m_driver.waitFor("the colour in the drawing",
                      [&] { return id.open<OdDbEntity>()->color() == OdCmColor::fromIndex(magentaIndex); });
+    // Each edit has the tree filled anew.
+    check(m_driver.property("structure", "count").toInt() == rows, "the rows of the tree are open as they were");
     // It shows once it isn't lit up any more.
     const int before = countPixels(magenta);
     m_driver.ask([&] { m_frame.selection().clear(); });

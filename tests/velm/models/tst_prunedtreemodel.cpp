@@ -218,6 +218,14 @@ private Q_SLOTS:
         m_model->setSourceModel(nullptr);
         QVERIFY(!log.take().contains("countChanged"));
         QCOMPARE(m_model->rowCount(), 0);
+        // One that was set twice and goes is let go.
+        auto third = std::make_unique<StringTree>("E(e1)");
+        m_model->setRootIndex({});
+        m_model->setSourceModel(third.get());
+        m_model->setSourceModel(third.get());
+        third.reset();
+        QCOMPARE(m_model->sourceModel(), nullptr);
+        QCOMPARE(m_model->rowCount(), 0);
     }
 
     void aTopRowOfAnotherSourceTakesTheRootsPlace()

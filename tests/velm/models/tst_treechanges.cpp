@@ -55,7 +55,7 @@ class TreeScript
 public:
     using Random = QRandomGenerator;
 
-    /// Moves outside batches break persistent indexes, by design.
+    /// Moves outside batches take rows out unannounced, which the tester can't follow.
     TreeScript(quint32 seed, bool withMoves) : m_script(seed), m_withMoves(withMoves)
     {
         const auto add = [this](const char* name, void (TreeScript::*edit)(Random&)) {

@@ -248,6 +248,23 @@ private Q_SLOTS:
         QCOMPARE(log.take(), "");
     }
 
+    void aMoveLeavesNoPersistentIndexBehind()
+    {
+        StringTree tree("P(A(a1 a2 a3) B(b1) C(c1) D)");
+        const QList<QPersistentModelIndex> gone{tree.at("A"), tree.at("a1"), tree.at("a3"), tree.at("B"),
+                                                tree.at("b1")};
+        const QList<QPersistentModelIndex> kept{tree.at("C"), tree.at("c1"), tree.at("D")};
+        tree.moveItem(tree.at("A"), {});
+        QCOMPARE(rowText(tree), "P(C(c1) D) A");
+        for (const QPersistentModelIndex& index : gone)
+            QVERIFY(!index.isValid());
+        QCOMPARE(kept, (QList<QPersistentModelIndex>{tree.at("C"), tree.at("c1"), tree.at("D")}));
+        // The last child goes without a word.
+        tree.moveItem(tree.at("D"), {});
+        QVERIFY(!kept[2].isValid());
+        QCOMPARE(kept[1].parent(), QModelIndex(kept[0]));
+    }
+
     void aMoveToWhereNothingIsLeftLosesTheValue()
     {
         StringTree tree("A(a1(x)) B(b1) C");

@@ -22,7 +22,7 @@ public:
     explicit GenericListModel(const std::vector<T>& items) : m_items(items) {}
 
     int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : size(); }
-    QVariant data(const QModelIndex& index, int role) const override = 0;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override = 0;
     QVariant data(int row, int role) const { return data(index(row, 0, QModelIndex()), role); }
 
     /// A reset, of an empty list, too.
@@ -96,8 +96,8 @@ public:
         endMoveRows();
         return true;
     }
-    /// Puts the rows into another model, as a removal here and an insert there. dest must not be negative. A first row
-    /// just behind the last one is announced as a removal of no row. This must stay.
+    /// Puts the rows into another model, not this one, as a removal here and an insert there. dest must not be
+    /// negative. A first row just behind the last one is announced as a removal of no row. This must stay.
     void move(int first, int last, GenericListModel<T>& other, int dest)
     {
         const bool fits = first >= 0 && first < size() && last >= 0 && last < size() && first <= last + 1;

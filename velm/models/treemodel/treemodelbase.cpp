@@ -14,6 +14,14 @@ void warnOfMissingChild()
 {
     QMessageLogger(nullptr, 0, nullptr).warning().noquote() << "Tree child item not found in parent";
 }
+
+/// Whether an item is the branch or below it.
+bool isWithin(const TreeItemBase* item, const TreeItemBase* branch)
+{
+    while (item && item != branch)
+        item = item->parent();
+    return item != nullptr;
+}
 } // namespace
 
 int getWantsToBeExpandedRole()
@@ -320,15 +328,17 @@ std::unique_ptr<TreeItemBase> TreeModelBase::takeForMove(const QModelIndex& from
     const int row = parentItem->rowOfChild(getTreeItem(from));
     const QModelIndex parentIndex = createItemIndex(parentItem);
     const TreeItemBase* next = parentItem->child(row + 1);
+    const bool isLost = isWithin(to, getTreeItem(from));
+    const bool isInNext = next && isWithin(to, next);
+    // No signal tells of the row that is taken out, so Qt doesn't see to the persistent indexes. In a batch they don't
+    // count until its reset drops them.
+    for (const QModelIndex& index : m_inBatch ? QModelIndexList() : persistentIndexList()) {
+        if (isWithin(getTreeItem(index), getTreeItem(from)))
+            changePersistentIndex(index, {});
+        else if (index.row() > row && getTreeItem(index)->parent() == parentItem)
+            changePersistentIndex(index, createIndex(index.row() - 1, index.column(), getTreeItem(index)));
+    }
     std::unique_ptr<TreeItemBase> taken = parentItem->takeChild(row);
-    const auto isWithin = [to](const TreeItemBase* branch) {
-        const TreeItemBase* item = to;
-        while (item && item != branch)
-            item = item->parent();
-        return item != nullptr;
-    };
-    const bool isLost = isWithin(taken.get());
-    const bool isInNext = next && isWithin(next);
     deleteItem(parentIndex, row);
     if (isLost || (isInNext && parentItem->child(row) != next))
         to = nullptr;
