@@ -3,8 +3,6 @@
 #include "velm/models/menumodel.h"
 
 namespace velm {
-IItemListModel::~IItemListModel() = default;
-
 QString IItemListModel::getLeftIconSource(int) const
 {
     return {};

@@ -47,13 +47,15 @@ public:
     virtual bool setShowNameEdit(int row, bool show);
     virtual bool setName(int row, const QString& name);
     virtual bool setChecked(int row, bool checked);
-    /// Behind the operations, so that they are the first.
-    virtual ~IItemListModel();
 
     QHash<int, QByteArray> getItemRoleNames() const;
     /// Empty for a role that nobody has.
     QVariant getItemData(int row, int role) const;
     /// False, without a word to the row, for the value that it has already and for roles that can't be written.
     bool setItemData(int row, const QVariant& value, int role);
+
+protected:
+    // Not virtual: the operations come first, and nobody owns one by this base.
+    ~IItemListModel() = default;
 };
 } // namespace velm

@@ -1,8 +1,6 @@
 #include "velm/models/ilistitem.h"
 
 namespace velm {
-IListItem::~IListItem() = default;
-
 QString IListItem::getLeftIconSource() const
 {
     return {};

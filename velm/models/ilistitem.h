@@ -27,7 +27,9 @@ public:
     virtual bool setShowNameEdit(bool show);
     virtual bool setName(const QString& name);
     virtual bool setChecked(bool checked);
-    /// Behind the operations, so that they are the first.
-    virtual ~IListItem();
+
+protected:
+    // Not virtual: the operations come first, and nobody owns one by this base.
+    ~IListItem() = default;
 };
 } // namespace velm
