@@ -198,10 +198,18 @@ void TestControlsMenu::aRowShowsWhatTheModelSays()
     MenuData picture = command("Picture", log);
     picture.bitmap = std::make_unique<QImage>(4, 4, QImage::Format_RGB32);
     picture.bitmap->fill(Qt::red);
-    MenuBuilder(&model).addItem(row).addItem(picture).addItem(command("Off", log, MenuData::NoFlags));
+    MenuBuilder(&model)
+        .addItem(row)
+        .addItem(picture)
+        .addItem(command("Off", log, MenuData::NoFlags))
+        .addItem(command("&More", log))
+        .children()
+        .addItem(command("Below", log));
     OpenMenu open(model);
     QVERIFY(open.shown().isReady());
-    QTRY_COMPARE(open.count(), 3);
+    QTRY_COMPARE(open.count(), 4);
+    // The mnemonic of a sub-menu, too, which a menu's title has lost.
+    QCOMPARE(open.item(3)->property("text").toString(), "&More");
     QVERIFY(open.item(0)->property("checked").toBool());
     QVERIFY(open.item(0)->property("markColumn").toBool());
     QVERIFY(open.item(0)->property("pictureColumn").toBool());
