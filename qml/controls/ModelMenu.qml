@@ -17,6 +17,8 @@ Menu {
     // From its opening to its end.
     property bool built: false
     property var chosen: undefined
+    // The row whose sub-menu is being added.
+    property var added: ({})
 
     // The command of the row has run.
     signal triggered(var index)
@@ -89,6 +91,7 @@ Menu {
                 title: entry.text
             });
             menu.build();
+            added = entry;
             addMenu(menu);
             itemAt(row).entry = entry;
         } else {
@@ -148,7 +151,12 @@ Menu {
             build();
     }
 
-    delegate: ModelMenuItem {}
+    // A label that gets its mnemonic later doesn't draw it.
+    // qmllint disable unqualified
+    delegate: ModelMenuItem {
+        entry: control.added
+    }
+    // qmllint enable unqualified
 
     onModelChanged: follow()
     onAboutToShow: {

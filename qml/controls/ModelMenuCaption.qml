@@ -34,7 +34,8 @@ Item {
         x: caption.columns * caption.columnWidth
         width: parent.width - x - caption.endRoom
         anchors.verticalCenter: parent.verticalCenter
-        text: caption.control.text
+        // Not the control's text: that of a sub-menu has lost its mnemonic at first.
+        text: caption.control.entry.text ?? ""
         font: caption.control.font
         renderType: Metrics.renderType
         color: caption.control.enabled ? Colors.text : Colors.textDisabled
