@@ -219,6 +219,8 @@ FocusScope {
                     sourceSize.width: width
                     sourceSize.height: height
                     source: Icons.source(row.entry.value)
+                    // The file may be written anew.
+                    cache: false
                 }
             }
             IconButton {

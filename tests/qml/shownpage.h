@@ -27,6 +27,10 @@ public:
         item->forceActiveFocus();
         m_ready = QTest::qWaitForWindowActive(&m_window);
     }
+    /// The page goes before its window, which lets go of the pictures that it drew.
+    ~Shown() { m_page.reset(); }
+    Q_DISABLE_COPY_MOVE(Shown)
+
     bool isReady() const { return m_ready; }
     QObject* page() const { return m_page.get(); }
     QQuickWindow* window() { return &m_window; }
