@@ -1,0 +1,5 @@
+#include "velm/table/rowfilter.h"
+
+namespace velm {
+RowFilter::~RowFilter() = default;
+} // namespace velm

@@ -1,0 +1,5 @@
+#include "velm/table/sorter.h"
+
+namespace velm {
+Sorter::~Sorter() = default;
+} // namespace velm
