@@ -163,6 +163,8 @@ FocusScope {
         interval: 0
         onTriggered: {
             view.model = null;
+            // It looks at its model only now.
+            view.forceLayout();
             view.model = Qt.binding(() => control.model);
         }
     }

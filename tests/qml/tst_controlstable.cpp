@@ -51,10 +51,10 @@ public:
     }
     QVariant data(const QModelIndex& index, int role) const override
     {
-        const auto written = m_written.constFind({index.row(), index.column()});
         const bool isText = role == Qt::DisplayRole || role == Qt::EditRole;
-        if (written != m_written.constEnd() && role == (index.column() == 1 ? Qt::CheckStateRole : role))
-            return isText || role == Qt::CheckStateRole ? *written : QVariant();
+        const auto written = m_written.constFind({index.row(), index.column()});
+        if (written != m_written.constEnd() && (index.column() == 1 ? role == Qt::CheckStateRole : isText))
+            return *written;
         if (role == Qt::CheckStateRole && index.column() == 1)
             return int(Qt::Unchecked);
         if (!isText || index.column() == 1)
