@@ -39,6 +39,10 @@ public:
     QHash<int, QByteArray> names = QAbstractTableModel::roleNames();
     /// Other answers to headerData, by column and role.
     QHash<std::pair<int, int>, QVariant> headers;
+    /// The cells of inserted columns: the column's name in lower case and the number of the row.
+    std::function<QVariant(const velm::ColumnData&, int row)> newCell = [](const velm::ColumnData& column, int row) {
+        return QVariant(column.name.toLower() + QString::number(row + 1));
+    };
     QStringList sorts; ///< calls of sort(), which makes the order of the texts
 
     velm::ColumnData& operator[](int index) { return columns.columns[static_cast<std::size_t>(index)]; }
@@ -123,7 +127,6 @@ public:
         rows.insert(rows.begin() + to, row);
         endMoveRows();
     }
-    /// Cells hold the column's name in lower case and a number.
     void insertColumns(int at, const std::vector<velm::ColumnData>& added)
     {
         beginInsertColumns({}, at, at + static_cast<int>(added.size()) - 1);
@@ -131,7 +134,7 @@ public:
         for (std::size_t row = 0; row < rows.size(); ++row)
             for (std::size_t column = 0; column < added.size(); ++column)
                 rows[row].insert(rows[row].begin() + at + static_cast<int>(column),
-                                 added[column].name.toLower() + QString::number(row + 1));
+                                 newCell(added[column], static_cast<int>(row)));
         endInsertColumns();
     }
     void removeColumns(int first, int last)

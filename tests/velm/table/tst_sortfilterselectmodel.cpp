@@ -386,7 +386,7 @@ private Q_SLOTS:
     /// Told as one change of the layout, or it would take minutes.
     void aFilterThatChangesInVeryManyPlaces()
     {
-        const int count = 6000;
+        const int count = 9000;
         SourceTable source("A");
         for (int row = 0; row < count; ++row)
             source.rows.push_back({(row * 7919) % count});
@@ -419,8 +419,7 @@ private Q_SLOTS:
         accept(2);
         QCOMPARE(m_table->selectedSources().size(), 1); // 4 stayed, 5 went
         QCOMPARE(m_table->selectedSources().first().data(), QVariant(4));
-        accept(3);
-        QVERIFY(m_table->selectedSources().isEmpty());
+        accept(4);
         accept(1);
     }
 
