@@ -436,8 +436,8 @@ bool SortFilterSelectModel::Pimpl::endForwarding()
     return std::exchange(isForwarding, false);
 }
 
-/// Whether children of a source row may be asked for. The base class would remember those of rows that aren't shown, and
-/// show them wrongly when the row comes back.
+/// Whether children of a source row may be asked for. The base class would remember those of rows that aren't shown,
+/// and show them wrongly when the row comes back.
 bool SortFilterSelectModel::Pimpl::isShown(const QModelIndex& sourceRow) const
 {
     return !sourceRow.isValid() || (isShown(sourceRow.parent()) && q->mapFromSource(sourceRow).isValid());

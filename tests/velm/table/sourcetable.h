@@ -3,6 +3,11 @@
 #include "velm/table/columns.h"
 #include "velm/table/sortfilterselectmodel.h"
 
+#include "support/signallog.h"
+
+#include <QAbstractItemModelTester>
+#include <QStandardItemModel>
+
 #include <algorithm>
 #include <functional>
 #include <numeric>
@@ -154,6 +159,43 @@ public:
     }
 };
 
+/// Rows of letters and numbers, children in brackets: "A(a1 a2) B".
+inline void fill(QStandardItem* parent, const QString& text, qsizetype& at)
+{
+    for (QString name; at < text.size(); ++at) {
+        if (text[at].isLetterOrNumber())
+            name += text[at];
+        if (!name.isEmpty() && (at + 1 == text.size() || !text[at + 1].isLetterOrNumber())) {
+            parent->appendRow({new QStandardItem(name), new QStandardItem});
+            name.clear();
+        }
+        if (text[at] == u'(')
+            fill(parent->child(parent->rowCount() - 1), text, ++at);
+        else if (text[at] == u')')
+            return;
+    }
+}
+
+/// A table of a tree of two columns.
+struct Tree
+{
+    explicit Tree(const QString& text)
+    {
+        qsizetype at = 0;
+        fill(source.invisibleRootItem(), text, at);
+        table.setSourceModel(&source);
+    }
+    QModelIndex at(const QString& text) const
+    {
+        const auto found = source.findItems(text, Qt::MatchExactly | Qt::MatchRecursive);
+        return table.mapFromSource(found.value(0)->index());
+    }
+
+    QStandardItemModel source;
+    velm::SortFilterSelectModel table;
+    QAbstractItemModelTester tester{&table, QAbstractItemModelTester::FailureReportingMode::QtTest};
+};
+
 /// Shows the rows that a function accepts.
 class Filter : public velm::RowFilter
 {
@@ -212,5 +254,17 @@ inline QString marks(const QAbstractItemModel& model, const char* role, const QM
         rows += cells;
     }
     return rows.join('|');
+}
+
+/// What of a log is the table's own: without the signals of every item model.
+inline QString own(SignalLog& log)
+{
+    QStringList told = log.take().split(' ');
+    told.removeIf([](const QString& entry) {
+        static const QStringList names = {"selectionChanged", "proxySortColumnChanged",      "ascendingChanged",
+                                          "filterChanged",    "hasInitialSortColumnChanged", "sortColumnChanged"};
+        return !names.contains(entry.section('(', 0, 0));
+    });
+    return told.join(' ');
 }
 } // namespace velmtest

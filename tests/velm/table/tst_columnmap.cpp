@@ -48,9 +48,8 @@ private Q_SLOTS:
         map.setPosition(0, -1);
         QCOMPARE(map.orderWith(3), (std::vector{2, 3}));
         QCOMPARE(map.orderWith(0), (std::vector{0, 2}));
-        QCOMPARE(map.orderWith(2), std::vector{2});
-        QCOMPARE(map.orderWith(4), std::vector{2});
-        QCOMPARE(map.orderWithout(-1), std::vector{2});
+        for (const int none : {-1, 2, 4}) // 2 is shown already
+            QCOMPARE(map.orderWith(none), std::vector{2});
         QCOMPARE(map.hiddenBefore(2), 2);
         QCOMPARE(map.hiddenBefore(99), 3);
         QCOMPARE(map.hiddenBefore(-1), 0);

@@ -1,14 +1,15 @@
 #include "velm/table/columnpersistence.h"
 
-#include "velm/table/columns.h"
+#include "sourcetable.h"
 
 #include "support/scopes.h"
 
 #include <QTest>
 
-#include <limits>
+#include <optional>
 
 using namespace velm;
+using namespace velmtest;
 using namespace velm::columnpersistence;
 
 namespace {
@@ -31,9 +32,24 @@ class TestColumnPersistence : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    void init()
+    {
+        m_store.emplace();
+        m_source.emplace("ABCD", "a1 b1 c1 d1|a2 b2 c2 d2");
+        m_table.emplace();
+        m_tester.emplace(&*m_table, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        m_table->setSourceModel(&*m_source);
+    }
+    void cleanup()
+    {
+        m_tester.reset();
+        m_table.reset();
+        m_source.reset();
+        m_store.reset();
+    }
+
     void readFillsInFromTheHeader()
     {
-        const velmtest::TemporaryConfig store;
         QVERIFY(!read("", {50, 2, true}, "Layers"));
         const auto unsaved = read("Name", {50, 2, false}, "Layers");
         QCOMPARE(unsaved->width, 50);
@@ -50,15 +66,6 @@ private Q_SLOTS:
         QVERIFY(!hidden->visible);
     }
 
-    void storedNonsenseStaysWithinAnInteger()
-    {
-        const velmtest::TemporaryConfig store;
-        writeColumnDataToRegistry("Name", std::numeric_limits<int>::min(), -5, "Layers");
-        const auto huge = read("Name", {50, 2, true}, "Layers");
-        QCOMPARE(huge->width, std::numeric_limits<int>::max());
-        QCOMPARE(huge->position, -5);
-    }
-
     void positionsStepAroundColumnsThatArentThere_data()
     {
         QTest::addColumn<QList<int>>("foreignWidths");
@@ -73,7 +80,6 @@ private Q_SLOTS:
     }
     void positionsStepAroundColumnsThatArentThere()
     {
-        const velmtest::TemporaryConfig store;
         QFETCH(QList<int>, foreignWidths);
         for (int i = 0; i < foreignWidths.size(); ++i)
             writeColumnDataToRegistry(wxString::Format("foreign %d", i), foreignWidths[i], 70 + i, "Layers");
@@ -88,13 +94,131 @@ private Q_SLOTS:
 
     void aColumnWithoutAnIdTakesItsPositionAllTheSame()
     {
-        const velmtest::TemporaryConfig store;
         writeColumnDataToRegistry("foreign", 1, 0, "Layers");
         writeAll({column("A", 0, 50), column("", 1, 60), column("B", 2, 70)}, "Layers");
         QCOMPARE(stored("A") + ' ' + stored("B"), "50@0 70@3");
         QCOMPARE(getSavedColumnDataList("Layers").size(), std::size_t(3));
     }
+
+    void aTableComesBackAsItWasSaved()
+    {
+        m_table->setParentId("Layers");
+        m_table->moveColumn(0, 3); // B C D A
+        m_table->resizeColumn(0, 41);
+        m_table->setSourceColumnVisible(3, false); // B C A
+        m_table->saveColumnData();
+        m_store->reopen();
+
+        SortFilterSelectModel next;
+        next.setParentId("Layers");
+        next.setSourceModel(&*m_source);
+        QCOMPARE(columnText(next), "BCA");
+        QCOMPARE(next.columnWidth(0), 41);
+        QCOMPARE(next.columnWidth(2), 100);
+        next.setSourceColumnVisible(3, true); // its place isn't loaded, as it is hidden
+        QCOMPARE(columnText(next), "BCAD");
+        QCOMPARE(next.columnWidth(3), 100); // hidden columns lose their width
+        next.saveColumnData();
+        next.setSourceModel(&*m_source);
+        QCOMPARE(columnText(next), "BCAD");
+    }
+
+    void whatIsStoredMayNotFit_data()
+    {
+        QTest::addColumn<QString>("source");
+        QTest::addColumn<QString>("stored"); // id, width and position
+        QTest::addColumn<QString>("columns");
+        QTest::newRow("nothing stored: no positions, so the source's") << "ABC"
+                                                                       << ""
+                                                                       << "ABC";
+        QTest::newRow("a new column comes first, at 0") << "ABC"
+                                                        << "A 10 0,B 10 1"
+                                                        << "ACB";
+        QTest::newRow("one that is gone leaves no gap") << "AC"
+                                                        << "C 10 0,B 10 1,A 10 2"
+                                                        << "CA";
+        QTest::newRow("a column renamed is new") << "AX"
+                                                 << "A 10 1,B 10 0"
+                                                 << "XA";
+        QTest::newRow("negative positions hide") << "ABC"
+                                                 << "A 10 -1,B 10 0,C 10 1"
+                                                 << "BC";
+        QTest::newRow("unless all are") << "AB"
+                                        << "A 10 -1,B 10 -2"
+                                        << "AB";
+        QTest::newRow("huge positions are the end") << "ABC"
+                                                    << "A 10 2147483647,B 10 1,C 10 5"
+                                                    << "BCA";
+        QTest::newRow("the same position is in the source's order") << "ABC"
+                                                                    << "A 10 1,B 10 1,C 10 0"
+                                                                    << "CAB";
+        QTest::newRow("hidden ones stay hidden") << "ABC"
+                                                 << "A 0 0,B -10 1,C 10 2"
+                                                 << "C";
+        QTest::newRow("all hidden changes nothing") << "AB"
+                                                    << "A 0 0,B 0 1"
+                                                    << "AB";
+    }
+    void whatIsStoredMayNotFit()
+    {
+        QFETCH(QString, source);
+        QFETCH(QString, stored);
+        for (const QString& column : stored.split(',', Qt::SkipEmptyParts)) {
+            const QStringList parts = column.split(' ');
+            writeColumnDataToRegistry(parts[0].toStdString(), parts[1].toInt(), parts[2].toInt(), "Layers");
+        }
+        SourceTable table(source, QStringList(source.split("", Qt::SkipEmptyParts)).join(' '));
+        m_table->setParentId("Layers");
+        m_table->setSourceModel(&table);
+        QTEST(columnText(*m_table), "columns");
+        QCOMPARE(cellText(*m_table).remove(' '), columnText(*m_table));
+    }
+
+    void columnsWithoutAnIdVanishBesideOthers()
+    {
+        (*m_source)[1].columnId.clear();
+        m_table->setParentId("Layers");
+        m_table->loadColumnData();
+        QCOMPARE(columnText(*m_table), "ACD");
+        for (int column = 0; column < 4; ++column)
+            (*m_source)[column].columnId.clear();
+        m_source->reset();
+        m_table->loadColumnData();
+        QCOMPARE(columnText(*m_table), "ABCD");
+        m_table->saveColumnData();
+        QVERIFY(getSavedColumnDataList("Layers").empty());
+    }
+
+    void loadingSortsAnew()
+    {
+        m_source->columns.initialSortColumn = 2;
+        (*m_source)[2].initialSortOrder = Qt::DescendingOrder;
+        writeColumnDataToRegistry("A", 0, 0, "Layers");
+        m_table->setParentId("Layers");
+        m_table->loadColumnData();
+        QCOMPARE(cellText(*m_table), "b2 c2 d2|b1 c1 d1");
+        QVERIFY(m_table->hasInitialSortColumn());
+        m_table->setAscending(true);
+        m_table->loadColumnData();
+        QVERIFY(!m_table->ascending());
+        QCOMPARE(m_table->proxySortColumn(), 1);
+    }
+
+    void aTableWithoutAnIdWorks()
+    {
+        m_table->moveColumn(0, 2);
+        m_table->saveColumnData();
+        m_source->removeColumns(3, 3);
+        QVERIFY(getSavedColumnDataList("").empty());
+        QCOMPARE(columnText(*m_table), "BCA");
+    }
+
+private:
+    std::optional<TemporaryConfig> m_store;
+    std::optional<SourceTable> m_source;
+    std::optional<SortFilterSelectModel> m_table;
+    std::optional<QAbstractItemModelTester> m_tester;
 };
 
-QTEST_APPLESS_MAIN(TestColumnPersistence)
+QTEST_GUILESS_MAIN(TestColumnPersistence)
 #include "tst_columnpersistence.moc"

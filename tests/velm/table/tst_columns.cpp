@@ -117,18 +117,6 @@ private Q_SLOTS:
         QCOMPARE(position, -3L);
     }
 
-    void whatIsntStoredIsAsTheCallerSays()
-    {
-        const velmtest::TemporaryConfig store;
-        for (const bool incoming : {false, true}) {
-            bool hidden = incoming;
-            long position = 5;
-            QCOMPARE(readColumnDataFromRegistry("Name", 44, 4, hidden, position, "Layers"), 44L);
-            QCOMPARE(hidden, incoming);
-            QCOMPARE(position, 4L);
-        }
-    }
-
     void savedColumnsAreListedByDialog()
     {
         const velmtest::TemporaryConfig store;

@@ -33,19 +33,14 @@ private Q_SLOTS:
         const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
         model.setSourceModel(&*m_source);
         SignalLog log(model);
-        const auto own = [&] { // without what any sort tells
-            QStringList told = log.take().split(' ', Qt::SkipEmptyParts);
-            told.removeIf([](const QString& entry) { return entry.contains("layout"); });
-            return told.filter(")").join(' ').section("Hint) ", -1);
-        };
         model.setSortColumn(-1);
         model.setAscending(true);
         QCOMPARE(log.take(), "");
         model.setSortColumn(0);
-        QVERIFY(own().endsWith("sortColumnChanged(0)"));
+        QVERIFY(log.take().endsWith("sortColumnChanged(0)"));
         QCOMPARE(rowText(model), "a b c");
         QVERIFY(model.setProperty("ascending", false));
-        QVERIFY(own().endsWith("ascendingChanged(false)"));
+        QVERIFY(log.take().endsWith("ascendingChanged(false)"));
         QCOMPARE(rowText(model), "c b a");
         model.setSortColumn(1);
         QCOMPARE(rowText(model), "c a b"); // the order stays
