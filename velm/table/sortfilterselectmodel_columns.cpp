@@ -436,12 +436,21 @@ bool SortFilterSelectModel::Pimpl::endForwarding()
     return std::exchange(isForwarding, false);
 }
 
+/// Whether children of a source row may be asked for. The base class would remember those of rows that aren't shown,
+/// and show them wrongly when the row comes back.
+bool SortFilterSelectModel::Pimpl::isShown(const QModelIndex& sourceRow) const
+{
+    return !sourceRow.isValid() || (isShown(sourceRow.parent()) && q->mapFromSource(sourceRow).isValid());
+}
+
 void SortFilterSelectModel::Pimpl::forwardDataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
                                                       const QList<int>& roles)
 {
     if (!topLeft.isValid() || !bottomRight.isValid())
         return;
     const QModelIndex parent = topLeft.parent();
+    if (!isShown(parent))
+        return;
     const int anyColumn = columns.toSource(0);
     int top = std::numeric_limits<int>::max();
     int bottom = -1;

@@ -66,6 +66,7 @@ struct SortFilterSelectModel::Pimpl
     /// Keeps the base class from telling of changed cells and headers at the places where they'd be without the order.
     void beginForwarding(bool byColumn);
     bool endForwarding();
+    bool isShown(const QModelIndex& sourceRow) const;
     void forwardDataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight, const QList<int>& roles);
     void forwardHeaderDataChanged(Qt::Orientation orientation, int first, int last);
 
