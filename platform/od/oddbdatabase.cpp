@@ -95,6 +95,11 @@ OdDbLinetypeTableRecord* OdDbDatabase::findLinetype(const OdString& name) const
     return find(m_linetypes, name);
 }
 
+OdDbDimStyleTableRecord* OdDbDatabase::findDimStyle(const OdString& name) const
+{
+    return find(m_dimStyles, name);
+}
+
 OdDbTextStyleTableRecord* OdDbDatabase::findTextStyle(const OdString& name) const
 {
     return find(m_textStyles, name);
