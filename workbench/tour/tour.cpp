@@ -114,14 +114,14 @@ void Tour::openDrawing()
     if (!m_hasDrawing)
         m_driver.command("OPEN " + write("small.dxf", smallDrawing));
     m_driver.waitFor(
-        "the drawing's layers in the list", [&] { return m_frame.layers().layers()->rowCount() > 2; }, 30000);
+        "the drawing's layers in the list", [&] { return m_frame.layers().table()->rowCount() > 2; }, 30000);
     m_driver.waitFor("the drawing on the canvas", [&] { return m_frame.canvas().drawnEntityCount() > 0; });
     m_driver.waitFor("the list on the screen", [&] { return m_driver.hasItem("layer:0"); });
 }
 
 QString Tour::layerName(int row)
 {
-    return m_driver.ask([&] { return m_frame.layers().layers()->index(row, 0).data().toString(); });
+    return m_driver.ask([&] { return m_frame.layers().table()->index(row, 0).data().toString(); });
 }
 
 void Tour::switchLayer()
@@ -241,11 +241,11 @@ void Tour::switchTheme()
 void Tour::refuseDrawing()
 {
     const QString file = write("damaged.dxf", "  0\nSECTION\n  2\nENTITIES\n  0\nLINE\n 10\n1.0\n 2");
-    const int layers = m_driver.ask([&] { return m_frame.layers().layers()->rowCount(); });
+    const int layers = m_driver.ask([&] { return m_frame.layers().table()->rowCount(); });
     m_driver.command("OPEN " + file);
     m_driver.waitForDialog("Open Drawing");
     check(m_driver.dialogText().contains("damaged.dxf"), "the message names the file");
-    check(m_driver.ask([&] { return m_frame.layers().layers()->rowCount(); }) == layers, "the open drawing stays");
+    check(m_driver.ask([&] { return m_frame.layers().table()->rowCount(); }) == layers, "the open drawing stays");
 }
 
 void Tour::rebuildEngine()
@@ -261,7 +261,7 @@ void Tour::closeDrawing()
 {
     m_driver.key("Escape");
     m_driver.key("ctrl+w");
-    m_driver.waitFor("an empty list", [&] { return m_frame.layers().layers()->rowCount() == 0; });
+    m_driver.waitFor("an empty list", [&] { return m_frame.layers().table()->rowCount() == 0; });
 }
 
 int Tour::run(bool hasDrawing)
