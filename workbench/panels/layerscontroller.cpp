@@ -15,7 +15,9 @@ LayersController::LayersController(OdApDocManager& documents, velm::IDialogFacto
     : RecordTableController(documents, dialogs, std::move(model), QStringLiteral("Layers"),
                             {LayerTableModel::NameColumn, LayerTableModel::DescriptionColumn}),
       m_layers(static_cast<LayerTableModel&>(*table()->sourceModel()))
-{}
+{
+    table()->setDefaultEditableColumnId(QStringLiteral("name"));
+}
 
 void LayersController::setDarkBackground(bool dark)
 {
