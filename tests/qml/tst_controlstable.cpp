@@ -51,19 +51,19 @@ public:
     }
     QVariant data(const QModelIndex& index, int role) const override
     {
-        const auto written = m_written.constFind({index.row(), index.column()});
         const bool isText = role == Qt::DisplayRole || role == Qt::EditRole;
-        if (written != m_written.constEnd() && role == (index.column() == 1 ? Qt::CheckStateRole : role))
-            return isText || role == Qt::CheckStateRole ? *written : QVariant();
+        const auto written = m_written.constFind({index.row(), index.column()});
+        if (written != m_written.constEnd() && (index.column() == 1 ? role == Qt::CheckStateRole : isText))
+            return *written;
         if (role == Qt::CheckStateRole && index.column() == 1)
             return int(Qt::Unchecked);
         if (!isText || index.column() == 1)
             return {};
         if (index.column() == 2)
             return index.row() % 5;
-        return QStringLiteral("%1 %2").arg(m_columns.columns[size_t(index.column())].name == QLatin1String("Name")
-                                               ? QStringLiteral("Row")
-                                               : QStringLiteral("Note"))
+        return QStringLiteral("%1 %2")
+            .arg(m_columns.columns[size_t(index.column())].name == QLatin1String("Name") ? QStringLiteral("Row")
+                                                                                         : QStringLiteral("Note"))
             .arg(index.row());
     }
     bool setData(const QModelIndex& index, const QVariant& value, int role) override
@@ -104,6 +104,9 @@ public:
         model.setParentId(QStringLiteral("TableOfTest"));
         model.setDefaultEditableColumnId(QStringLiteral("name"));
         model.setSourceModel(&rows);
+        // It walks all rows.
+        if (count < 1000)
+            tester.emplace(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
         shown.emplace(m_engine.load("ModelTable { implicitWidth: 480; implicitHeight: 260\n"
                                     "  delegates: ({1: check})\n"
                                     "  Component { id: check; ModelTableCheck {} } }",
@@ -200,7 +203,7 @@ public:
 
     Rows rows;
     SortFilterSelectModel model;
-    QAbstractItemModelTester tester{&model, QAbstractItemModelTester::FailureReportingMode::QtTest};
+    std::optional<QAbstractItemModelTester> tester;
     std::optional<Shown> shown;
 
 private:
@@ -228,6 +231,7 @@ private Q_SLOTS:
     void theRowUnderThePointerIsHovered();
     void aMillionRowsMakeFewCells();
     void theHeaderStaysAboveItsColumns();
+    void anotherSourceHasOtherRoles();
 
 private:
     std::optional<velmtest::TemporaryConfig> m_config;
@@ -237,8 +241,8 @@ void TestControlsTable::theMouseSelects()
 {
     ShownTable t;
     QVERIFY(t.shown->isReady());
-    QSignalSpy asked(t.table(), SIGNAL(contextMenuRequested(int,int,QPointF)));
-    QSignalSpy activated(t.table(), SIGNAL(cellActivated(int,int)));
+    QSignalSpy asked(t.table(), SIGNAL(contextMenuRequested(int, int, QPointF)));
+    QSignalSpy activated(t.table(), SIGNAL(cellActivated(int, int)));
     t.click(t.point(2, 0));
     QCOMPARE(t.selection(), QStringLiteral("2 (2)"));
     QCOMPARE(t.cell(2, 2)->property("isSelected"), QVariant(true));
@@ -437,7 +441,7 @@ void TestControlsTable::keysWorkOnCells()
 {
     ShownTable t;
     QVERIFY(t.shown->isReady());
-    QSignalSpy activated(t.table(), SIGNAL(cellActivated(int,int)));
+    QSignalSpy activated(t.table(), SIGNAL(cellActivated(int, int)));
     const auto preFocus = [&] {
         for (int row = 0; row < 12; ++row) {
             for (int column = 0; column < t.model.columnCount(); ++column) {
@@ -542,6 +546,7 @@ void TestControlsTable::theRowUnderThePointerIsHovered()
     const auto isHighlighted = [&](int row) {
         return t.cell(row, 0) && t.cell(row, 0)->property("isHighlighted").toBool();
     };
+    QTest::mouseMove(t.shown->window(), t.point(2, 2));
     QTest::mouseMove(t.shown->window(), t.point(3, 2));
     QTRY_VERIFY(isHighlighted(3));
     QTest::mouseMove(t.shown->window(), t.point(4, 1));
@@ -557,9 +562,7 @@ void TestControlsTable::aMillionRowsMakeFewCells()
 {
     ShownTable t(1000000);
     QVERIFY(t.shown->isReady());
-    const auto cells = [&] {
-        return t.view()->property("contentItem").value<QQuickItem*>()->childItems().size();
-    };
+    const auto cells = [&] { return t.view()->property("contentItem").value<QQuickItem*>()->childItems().size(); };
     QVERIFY(cells() < 80);
     t.press(Qt::Key_End);
     QCOMPARE(t.texts(999999), QStringLiteral("Row 999999||4|Note 999999"));
@@ -602,6 +605,35 @@ void TestControlsTable::theHeaderStaysAboveItsColumns()
     t.view()->setProperty("contentX", 2000.0);
     t.model.moveColumn(0, 39);
     check();
+}
+
+void TestControlsTable::anotherSourceHasOtherRoles()
+{
+    ShownTable t;
+    QVERIFY(t.shown->isReady());
+    class OtherRows : public Rows
+    {
+    public:
+        OtherRows() : Rows(5) { columns().columns.resize(3); }
+        QHash<int, QByteArray> roleNames() const override
+        {
+            auto names = Rows::roleNames();
+            names[Qt::UserRole] = "first";
+            names[Qt::UserRole + 1] = "second";
+            return names;
+        }
+    } other;
+    t.model.setSourceModel(&other);
+    t.settle();
+    QCOMPARE(t.texts(4), QStringLiteral("Row 4||4"));
+    t.click(t.point(3, 0));
+    QTRY_VERIFY(t.cell(3, 0) && t.cell(3, 0)->property("isSelected").toBool());
+    QVERIFY(!t.cell(3, 0)->property("isPreFocusCell").toBool());
+    t.press(Qt::Key_Right);
+    QVERIFY(t.cell(3, 0)->property("isPreFocusCell").toBool());
+    t.model.setSourceModel(nullptr);
+    t.settle();
+    QVERIFY(!t.cell(0, 0));
 }
 
 int main(int argc, char** argv)
