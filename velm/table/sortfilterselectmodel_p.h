@@ -56,6 +56,7 @@ struct SortFilterSelectModel::Pimpl
     bool isPermuted() const;
     void reorder(std::vector<int> order);
     void showColumns(std::vector<int> order);
+    void selectWholeRows();
     void columnsAboutToBeInserted(const QModelIndex& parent, int first, int last);
     void columnsInserted(const QModelIndex& parent, int first, int last);
     void saveRemovedColumns(const QModelIndex& parent, int first, int last);
