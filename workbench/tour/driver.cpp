@@ -145,7 +145,12 @@ bool Driver::itemHasFocus(const QString& name)
     });
 }
 
-void Driver::clickItem(const QString& name)
+void Driver::clickItem(const QString& name, int button, const QString& modifier)
+{
+    click(placeOfItem(name), button, modifier);
+}
+
+QPoint Driver::placeOfItem(const QString& name)
 {
     // Where it is now may not be where it stays: a page that was just made is laid out on its first frame.
     QPoint place;
@@ -157,12 +162,29 @@ void Driver::clickItem(const QString& name)
         const QPoint now = originOf(*item->window()) + (centre * item->window()->devicePixelRatio()).toPoint();
         return std::exchange(place, now) == now;
     });
-    click(place);
+    return place;
 }
 
-void Driver::click(QPoint screen, int button)
+void Driver::click(QPoint screen, int button, const QString& modifier)
 {
-    xdotool({"mousemove", QString::number(screen.x()), QString::number(screen.y()), "click", QString::number(button)});
+    QStringList arguments = {"mousemove", QString::number(screen.x()), QString::number(screen.y())};
+    const QStringList press = {"click", QString::number(button)};
+    arguments += modifier.isEmpty() ? press : QStringList{"keydown", modifier} + press + QStringList{"keyup", modifier};
+    xdotool(arguments);
+}
+
+void Driver::drag(QPoint from, QPoint to, const std::function<void()>& onTheWay)
+{
+    constexpr int steps = 8;
+    QStringList arguments = {"mousemove", QString::number(from.x()), QString::number(from.y()), "mousedown", "1"};
+    for (int step = 1; step <= steps; ++step) {
+        const QPoint place = from + (to - from) * step / steps;
+        arguments += {"mousemove", QString::number(place.x()), QString::number(place.y()), "sleep", "0.02"};
+    }
+    xdotool(arguments);
+    if (onTheWay)
+        onTheWay();
+    xdotool({"mouseup", "1"});
 }
 
 QRect Driver::rectOf(wxWindow& window)

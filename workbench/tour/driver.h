@@ -62,11 +62,16 @@ public:
     // on the screen.
     bool hasItem(const QString& name);
     QVariant property(const QString& name, const char* property);
-    void clickItem(const QString& name);
+    void clickItem(const QString& name, int button = 1, const QString& modifier = {});
+    /// The item's middle on the screen, once it stays there.
+    QPoint placeOfItem(const QString& name);
     /// Whether the item or what is in it has the keyboard.
     bool itemHasFocus(const QString& name);
 
-    void click(QPoint screen, int button = 1);
+    /// With a key of xdotool's name held, as "shift".
+    void click(QPoint screen, int button = 1, const QString& modifier = {});
+    /// Moves the mouse with the left button held. What is asked of `onTheWay` happens before the button is released.
+    void drag(QPoint from, QPoint to, const std::function<void()>& onTheWay = {});
     void click(wxWindow& window);
     /// The window's place on the screen, in pixels.
     QRect rectOf(wxWindow& window);
