@@ -1,7 +1,18 @@
 #include "desktop/desktop.h"
 
+#include "od/odstring.h"
+
 #include <QGuiApplication>
 #include <QOpenGLContext>
+
+#include <cwchar>
+
+#ifndef _WIN32
+int _wcsicoll(const wchar_t* left, const wchar_t* right)
+{
+    return std::wcscoll(OdString(left).makeLower().c_str(), OdString(right).makeLower().c_str());
+}
+#endif
 
 namespace desktop {
 QOpenGLContext* openGlContextFromNative(HGLRC context, [[maybe_unused]] HWND window)

@@ -8,6 +8,8 @@
 
 #ifdef _WIN32
 #include <windows.h>
+
+#include <wchar.h>
 #else
 #include <cstdint>
 
@@ -36,6 +38,9 @@ constexpr std::uint8_t GetBValue(COLORREF color)
 {
     return static_cast<std::uint8_t>((color >> 16) & 0xFF);
 }
+
+/// Three-way comparison without case, in the order of the C locale's language.
+PLATFORM_EXPORT int _wcsicoll(const wchar_t* left, const wchar_t* right);
 #endif
 
 QT_BEGIN_NAMESPACE

@@ -46,8 +46,7 @@ OdDbDatabase::OdDbDatabase()
     for (const wchar_t* name : {L"ByBlock", L"ByLayer", L"Continuous"})
         addLinetype(name);
     m_currentLayer = addLayer(L"0")->objectId();
-    addDimStyle(L"Standard");
-    addTextStyle(L"Standard");
+    addDimStyle(L"Standard")->setDimtxsty(addTextStyle(L"Standard")->objectId());
     m_modelSpace = addBlock(L"*Model_Space");
     addLayout(L"Model", m_modelSpace);
     addLayout(L"Layout1", addBlock(L"*Paper_Space"));
@@ -93,6 +92,11 @@ OdDbLayerTableRecord* OdDbDatabase::findLayer(const OdString& name) const
 OdDbLinetypeTableRecord* OdDbDatabase::findLinetype(const OdString& name) const
 {
     return find(m_linetypes, name);
+}
+
+OdDbDimStyleTableRecord* OdDbDatabase::findDimStyle(const OdString& name) const
+{
+    return find(m_dimStyles, name);
 }
 
 OdDbTextStyleTableRecord* OdDbDatabase::findTextStyle(const OdString& name) const

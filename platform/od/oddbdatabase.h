@@ -30,6 +30,7 @@ public:
     // rename().
     OdDbLayerTableRecord* findLayer(const OdString& name) const;
     OdDbLinetypeTableRecord* findLinetype(const OdString& name) const;
+    OdDbDimStyleTableRecord* findDimStyle(const OdString& name) const;
     OdDbTextStyleTableRecord* findTextStyle(const OdString& name) const;
     OdDbBlockTableRecord* findBlock(const OdString& name) const;
 

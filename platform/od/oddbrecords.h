@@ -32,6 +32,11 @@ public:
     void setLinetypeObjectId(OdDbObjectId linetype) { m_linetype = linetype; }
     int lineWeight() const { return m_lineWeight; }
     void setLineWeight(int lineWeight) { m_lineWeight = lineWeight; }
+    const OdString& description() const { return m_description; }
+    void setDescription(const OdString& description) { m_description = description; }
+    /// Empty where the drawing's plot styles go by colour.
+    const OdString& plotStyleName() const { return m_plotStyleName; }
+    void setPlotStyleName(const OdString& name) { m_plotStyleName = name; }
 
 private:
     OdCmColor m_color = OdCmColor::fromIndex(7);
@@ -40,6 +45,8 @@ private:
     bool m_locked = false;
     OdDbObjectId m_linetype;
     int m_lineWeight = OdDb::kLnWtByLwDefault;
+    OdString m_description;
+    OdString m_plotStyleName;
 };
 
 /// A linetype: its dashes in drawing units, above zero a dash, below zero a gap, zero a dot. No dashes: continuous.
@@ -62,6 +69,28 @@ class PLATFORM_EXPORT OdDbDimStyleTableRecord : public OdDbSymbolTableRecord
 {
 public:
     using OdDbSymbolTableRecord::OdDbSymbolTableRecord;
+
+    /// The height of the text, in drawing units before the scale.
+    double dimtxt() const { return m_textHeight; }
+    void setDimtxt(double height) { m_textHeight = height; }
+    /// The size of the arrows, in drawing units before the scale.
+    double dimasz() const { return m_arrowSize; }
+    void setDimasz(double size) { m_arrowSize = size; }
+    /// What all sizes are multiplied by.
+    double dimscale() const { return m_scale; }
+    void setDimscale(double scale) { m_scale = scale; }
+    /// Decimal places of lengths.
+    int dimdec() const { return m_decimals; }
+    void setDimdec(int decimals) { m_decimals = decimals; }
+    OdDbObjectId dimtxsty() const { return m_textStyle; }
+    void setDimtxsty(OdDbObjectId textStyle) { m_textStyle = textStyle; }
+
+private:
+    double m_textHeight = 0.18;
+    double m_arrowSize = 0.18;
+    double m_scale = 1.0;
+    int m_decimals = 4;
+    OdDbObjectId m_textStyle;
 };
 
 class PLATFORM_EXPORT OdDbTextStyleTableRecord : public OdDbSymbolTableRecord

@@ -8,6 +8,8 @@ const wchar_t* describe(OdResult code)
         return L"No error";
     case eInvalidIndex:
         return L"Invalid index";
+    case eNotThatKindOfClass:
+        return L"Not that kind of class";
     case eOutOfMemory:
         return L"Out of memory";
     case eGeneralError:
@@ -25,4 +27,7 @@ OdError::OdError(const OdString& description)
 {}
 
 OdError_InvalidIndex::OdError_InvalidIndex() : OdError(eInvalidIndex)
+{}
+
+OdError_NotThatKindOfClass::OdError_NotThatKindOfClass() : OdError(eNotThatKindOfClass)
 {}

@@ -9,6 +9,7 @@ enum OdResult
 {
     eOk = 0,
     eInvalidIndex = 5,
+    eNotThatKindOfClass = 7,
     eOutOfMemory = 9,
     eGeneralError = 100,
 };
@@ -35,4 +36,11 @@ class PLATFORM_EXPORT OdError_InvalidIndex : public OdError
 {
 public:
     OdError_InvalidIndex();
+};
+
+/// An object that is of another class than the one it was opened as.
+class PLATFORM_EXPORT OdError_NotThatKindOfClass : public OdError
+{
+public:
+    OdError_NotThatKindOfClass();
 };

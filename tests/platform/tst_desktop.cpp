@@ -12,6 +12,7 @@ class tst_Desktop : public QObject
 
 private Q_SLOTS:
     void nativeContextBecomesQts();
+    void textsCompareWithoutCase();
 };
 
 void tst_Desktop::nativeContextBecomesQts()
@@ -31,6 +32,13 @@ void tst_Desktop::nativeContextBecomesQts()
     surface.create();
     QVERIFY(maker.makeCurrent(&surface));
 #endif
+}
+
+void tst_Desktop::textsCompareWithoutCase()
+{
+    QCOMPARE(_wcsicoll(L"MaßÄ", L"maßä"), 0);
+    QVERIFY(_wcsicoll(L"a", L"B") < 0 && _wcsicoll(L"B", L"a") > 0);
+    QVERIFY(_wcsicoll(L"", L"A") < 0);
 }
 
 QTEST_MAIN(tst_Desktop)

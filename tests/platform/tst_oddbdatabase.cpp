@@ -1,6 +1,7 @@
 #include <QTest>
 
 #include "od/oddbdatabase.h"
+#include "ut/databaseutils.h"
 
 #include <numbers>
 
@@ -12,6 +13,7 @@ private Q_SLOTS:
     void newDatabaseHoldsTheStandardRecords();
     void namesAreFoundWithoutCaseAndAddedOnce();
     void renamingKeepsTheMapRight();
+    void childDimStylesHaveAParentAndAKind();
     void renamingGoesByTableAndDatabase();
     void erasedRecordsGoButTheirIdsStay();
     void layoutsOverBlocks();
@@ -70,6 +72,23 @@ void tst_OdDbDatabase::renamingKeepsTheMapRight()
     QVERIFY(database.rename(*doors, L"Walls"));
     QCOMPARE(database.findLayer(L"WALLS"), doors);
     QCOMPARE(database.findLayer(L"ceilings"), walls);
+}
+
+void tst_OdDbDatabase::childDimStylesHaveAParentAndAKind()
+{
+    using ut::DatabaseUtils::isChildDimStyle;
+    OdDbDatabase database;
+    for (const wchar_t* name :
+         {L"Standard$2", L"Standard$5", L"Standard$22", L"Standard$", L"Orphan$2", L"A$B", L"A$B$0"})
+        database.addDimStyle(name);
+    QVERIFY(isChildDimStyle(L"STANDARD$2", &database));
+    QVERIFY(isChildDimStyle(L"A$B$0", &database));
+    for (const wchar_t* name :
+         {L"Standard", L"Standard$5", L"Standard$22", L"Standard$", L"Orphan$2", L"Standard$4", L"$2", L""})
+        QVERIFY2(!isChildDimStyle(name, &database), qPrintable(QString::fromWCharArray(name)));
+    QVERIFY(!isChildDimStyle(L"Standard$2", nullptr));
+    database.findDimStyle(L"standard")->erase();
+    QVERIFY(!isChildDimStyle(L"Standard$2", &database));
 }
 
 void tst_OdDbDatabase::renamingGoesByTableAndDatabase()

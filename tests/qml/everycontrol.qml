@@ -14,7 +14,7 @@ PanelPage {
         Menu { MenuItem { text: "&Item" } MenuSeparator {} Menu { title: "More"; MenuItem { checkable: true } } }
         Popup { Label {} } ToolTip {}
         IconButton { mark: "add"; text: "Add" } SearchField {} ColorSwatch { diagonal: true } DialogButtons {}
-        PlainListView { model: ["a", "b"] } PlaceholderMessage { mark: "info"; text: "Nothing" } Mark { name: "check" }
+        PlainListView { model: ["a", "b"] } ModelTable {} PlaceholderMessage { mark: "info"; text: "Nothing" } Mark { name: "check" }
         Label { text: Settings.tooltipDelay + QtFontConfig.defaultRenderType }
     }
 }

@@ -1,3 +1,4 @@
+#include "ut/databaseutils.h"
 #include "workbench/dxftexts.h"
 
 #include <numbers>
@@ -17,6 +18,8 @@ private Q_SLOTS:
     void attributesAreRead();
     void blocksHoldTheirEntities();
     void layoutsShowTheirBlocks();
+    void dimStylesHaveTheirValues();
+    void layersHaveDescriptionsAndPlotStyles();
 };
 
 void DxfReaderTest::floorPlanIsReadWhole()
@@ -48,7 +51,13 @@ void DxfReaderTest::floorPlanIsReadWhole()
     QVERIFY(database.findLayer(L"Achsen")->linetypeObjectId() == database.findLinetype(L"Mitte")->objectId());
     QVERIFY((database.findLinetype(L"MITTE")->dashes() == OdArray<double>{600, -120, 120, -120}));
     QVERIFY(database.currentLayer() == database.findLayer(L"Möbel")->objectId());
-    QCOMPARE(database.dimStyles().size(), std::size_t(3));
+    QCOMPARE(qt(walls->description()), QString("Tragende und leichte Wände"));
+    QCOMPARE(qt(database.findLayer(L"Türen")->description()), QString());
+    QCOMPARE(database.dimStyles().size(), std::size_t(7));
+    QVERIFY(ut::DatabaseUtils::isChildDimStyle(L"Standard$2", &database));
+    QVERIFY(ut::DatabaseUtils::isChildDimStyle(L"Small$3", &database));
+    QCOMPARE(database.findDimStyle(L"Architektur 1-50")->dimscale(), 50.0);
+    QCOMPARE(database.findDimStyle(L"Small")->dimtxsty(), database.findTextStyle(L"Beschriftung")->objectId());
     QCOMPARE(qt(database.findTextStyle(L"Titel")->fileName()), QString("DejaVuSans-Bold.ttf"));
     QCOMPARE(database.formatter().units().linearPrecision, 1);
     QCOMPARE(database.layouts().size(), std::size_t(2));
@@ -214,6 +223,52 @@ void DxfReaderTest::layoutsShowTheirBlocks()
     }
     QCOMPARE(names, (QStringList{"Model", "Plan", "Layout1"}));
     QCOMPARE(counts, (QList<unsigned int>{1, 1, 1}));
+}
+
+void DxfReaderTest::dimStylesHaveTheirValues()
+{
+    // The text styles stand below, and the private data of an application hold numbers of their own.
+    const DxfReadResult result = readText(
+        drawing({}, {},
+                "0 TABLE|2 DIMSTYLE|0 DIMSTYLE|105 A|2 Plan|40 +50.0|41 2.5|140 3.5|271 1|340 C1|1001 ACAD|1040 7"
+                "|0 DIMSTYLE|105 B|2 Bare|0 DIMSTYLE|105 C|2 Odd|271 1e300|340 FF|0 DIMSTYLE|2 |0 ENDTAB"
+                "|0 TABLE|2 STYLE|0 STYLE|2 Old|3 txt|0 STYLE|5 C1|2 Notes|3 txt|0 ENDTAB"));
+    QCOMPARE(qt(result.error), QString());
+    const OdDbDatabase& database = *result.database;
+    QCOMPARE(database.dimStyles().size(), std::size_t(4));
+    const OdDbDimStyleTableRecord* plan = database.findDimStyle(L"Plan");
+    QCOMPARE(plan->dimscale(), 50.0);
+    QCOMPARE(plan->dimasz(), 2.5);
+    QCOMPARE(plan->dimtxt(), 3.5);
+    QCOMPARE(plan->dimdec(), 1);
+    QVERIFY(plan->dimtxsty() == database.findTextStyle(L"Notes")->objectId());
+    QCOMPARE(database.findDimStyle(L"Bare")->dimscale(), 1.0);
+    for (const wchar_t* name : {L"Bare", L"Odd", L"Standard"})
+        QVERIFY(database.findDimStyle(name)->dimtxsty() == database.findTextStyle(L"Standard")->objectId());
+    QCOMPARE(database.findDimStyle(L"Odd")->dimdec(), 8);
+}
+
+void DxfReaderTest::layersHaveDescriptionsAndPlotStyles()
+{
+    const QByteArray layers =
+        "0 TABLE|2 LAYER|0 LAYER|5 10|2 Walls|390 F2|1001 OTHER|1000 no|1000 no|1001 AcAecLayerStandard|1000 "
+        "|1000 W\\U+00E4nde|1000 no|0 LAYER|5 11|2 Doors|390 F1|1001 AcAecLayerStandard|1000 no|1001 OTHER|1000 no"
+        "|0 LAYER|5 12|2 Roof|390 EE|0 LAYER|5 13|2 Old|0 ENDTAB";
+    const QByteArray objects = "0 DICTIONARY|5 C|3 ACAD_GROUP|350 D|3 ACDB_PLOTSTYLENAME|350 E"
+                               "|0 DICTIONARY|5 D|3 Group|350 EE"
+                               "|0 ACDBDICTIONARYWDFLT|5 E|3 Normal|350 F1|3 Half tone|350 F2|340 F1"
+                               "|0 ACDBPLACEHOLDER|5 F1|0 ACDBPLACEHOLDER|5 F2";
+    const auto read = [&](const QByteArray& mode) {
+        const DxfReadResult result =
+            readText(section("HEADER", "9 $PSTYLEMODE|290 " + mode) + section("TABLES", layers) +
+                     section("OBJECTS", objects) + groups("0 EOF"));
+        QStringList shown;
+        for (const OdDbLayerTableRecord* layer : result.database->layers())
+            shown += qt(layer->getName()) + '/' + qt(layer->description()) + '/' + qt(layer->plotStyleName());
+        return shown.join(' ');
+    };
+    QCOMPARE(read("0"), QString("0// Walls/Wände/Half tone Doors//Normal Roof// Old//"));
+    QCOMPARE(read("1"), QString("0// Walls/Wände/ Doors// Roof// Old//")); // they go by colour
 }
 
 QTEST_GUILESS_MAIN(DxfReaderTest)

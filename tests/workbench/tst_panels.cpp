@@ -20,6 +20,7 @@ private Q_SLOTS:
     void aTextThatIsStillTypedGoesToItsOwnEntity();
     void aDrawingMayCloseUnderATextThatIsTyped();
     void aLayerIsHiddenByASwitch();
+    void aLayerIsEditedInItsTable();
     void aDoubleClickInTheTreeShowsTheBranch();
     void theTreeKeepsItsOpenRowsInANewEngine();
 
@@ -114,6 +115,44 @@ void PanelsTest::aLayerIsHiddenByASwitch()
     m_driver.command("SHOW");
     m_driver.waitFor("all of it", [&] { return m_frame.canvas().drawnEntityCount() == 3; });
     QCOMPARE(drawn(), size_t(3));
+}
+
+void PanelsTest::aLayerIsEditedInItsTable()
+{
+    const auto layer = [this](const wchar_t* name) {
+        return m_driver.ask([&] { return m_frame.documents().current()->database()->findLayer(name); });
+    };
+    const auto typeName = [this](const QString& name) {
+        m_driver.key("F2");
+        m_driver.waitFor("the keyboard in the cell", [&] { return m_driver.itemHasFocus("editor"); });
+        m_driver.replaceText(name);
+        m_driver.key("Return");
+    };
+    m_driver.ask([&] { m_frame.showPanel("Layers"); });
+    m_driver.waitFor("the drawing", [&] { return m_frame.canvas().drawnEntityCount() == 3; });
+    m_driver.clickItem("layers/Walls/on");
+    m_driver.waitFor("the texts alone", [&] { return m_frame.canvas().drawnEntityCount() == 2; });
+    QVERIFY(layer(L"Walls")->isOff());
+    m_driver.clickItem("layers/Walls/on");
+    m_driver.waitFor("all of it", [&] { return m_frame.canvas().drawnEntityCount() == 3; });
+
+    m_driver.clickItem("layers/Walls/name");
+    typeName("0");
+    m_driver.waitForDialog("Edit");
+    QVERIFY(m_driver.dialogText().contains("already"));
+    m_driver.key("Return");
+    m_driver.waitForNoDialog();
+    m_driver.waitFor("the keyboard in the table", [&] { return m_driver.itemHasFocus("layers"); });
+    typeName("Outside");
+    m_driver.waitFor("the name in the drawing", [&] { return layer(L"Outside") != nullptr; });
+
+    m_driver.clickItem("layers/Outside/color");
+    m_driver.waitFor("the colours", [&] { return m_driver.itemHasFocus("choice"); });
+    m_driver.key("Home");
+    m_driver.key("Return");
+    m_driver.waitFor("the colour in the drawing",
+                     [&] { return layer(L"Outside")->color() == OdCmColor::fromIndex(1); });
+    QVERIFY(m_driver.ask([&] { return m_frame.layers().canRename(); }));
 }
 
 void PanelsTest::aDoubleClickInTheTreeShowsTheBranch()

@@ -54,8 +54,9 @@ MainFrame::MainFrame(VelmSession& session, HostServices& services, PageGroup& pa
     : wxFrame(nullptr, wxID_ANY, "velm workbench", wxDefaultPosition, wxSize(1160, 820)), m_session(session),
       m_services(services), m_pages(pages), m_documents(services.documents(), services.dialogs(), pages),
       m_selection(services.documents()), m_layers(services.documents(), services.dialogs()),
-      m_drawingInfo(services.documents()), m_drawingPanels(services.documents(), m_selection),
-      m_canvasMenu(services.documents(), m_selection), m_contextMenu(pages, *this, m_canvasMenu)
+      m_dimStyles(services.documents(), services.dialogs()), m_drawingInfo(services.documents()),
+      m_drawingPanels(services.documents(), m_selection), m_canvasMenu(services.documents(), m_selection),
+      m_contextMenu(pages, *this, m_canvasMenu)
 {
     build();
     addCommands();
@@ -63,7 +64,8 @@ MainFrame::MainFrame(VelmSession& session, HostServices& services, PageGroup& pa
     m_services.setCommandLine(m_commandLine);
     m_services.documents().addReactor(this);
     m_documents.log = [this](const wxString& line) { m_commandLine->log(line); };
-    m_layers.onLayersChanged = [this] { drawingChanged(); };
+    m_layers.onEdited = [this] { drawingChanged(); };
+    m_dimStyles.onEdited = [this] { drawingChanged(); };
     properties().onEdited = [this] { drawingChanged(); };
     structure().onBranchWanted = [this](const QModelIndex& index) {
         branch().show(index);
@@ -100,6 +102,8 @@ MainFrame::~MainFrame()
     m_canvas->setDatabase(nullptr);
     // A page that goes may still tell something.
     properties().onEdited = nullptr;
+    m_layers.onEdited = nullptr;
+    m_dimStyles.onEdited = nullptr;
     m_selection.disconnect();
     // The pages go before the controllers that they show, which are members.
     DestroyChildren();
@@ -126,6 +130,7 @@ void MainFrame::build()
     m_lowerPanels = new wxNotebook(m_panelSplitter, wxID_ANY);
     addPanel(m_lowerPanels, "Workbench/PropertiesPanel.qml", &properties(), _("Properties"));
     addPanel(m_lowerPanels, "Workbench/DrawingPanel.qml", &m_drawingInfo, _("Drawing"));
+    addPanel(m_lowerPanels, "Workbench/DimStylesPanel.qml", &m_dimStyles, _("Dimension Styles"));
 
     m_tablePanels = new wxNotebook(m_tableSplitter, wxID_ANY);
     addPanel(m_tablePanels, "Workbench/EntitiesPanel.qml", &entities(), _("Entities"));
@@ -254,6 +259,7 @@ void MainFrame::drawingChanged()
 {
     m_canvas->refreshDrawing();
     m_layers.refresh();
+    m_dimStyles.refresh();
     m_drawingInfo.refresh();
     m_drawingPanels.refresh();
     showState();

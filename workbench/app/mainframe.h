@@ -7,6 +7,7 @@
 #include "drawing/selection.h"
 #include "host/contextmenupopup.h"
 #include "od/odge.h"
+#include "panels/dimstylescontroller.h"
 #include "panels/drawinginfo.h"
 #include "panels/layerscontroller.h"
 #include "panels/partscontroller.h"
@@ -46,6 +47,7 @@ public:
     DrawingCanvas& canvas() { return *m_canvas; }
     CommandLine& commandLine() { return *m_commandLine; }
     LayersController& layers() { return m_layers; }
+    DimStylesController& dimStyles() { return m_dimStyles; }
     StructureController& structure() { return m_drawingPanels.structure; }
     BranchController& branch() { return m_drawingPanels.branch; }
     PropertiesController& properties() { return m_drawingPanels.properties; }
@@ -83,6 +85,7 @@ private:
     Documents m_documents;
     Selection m_selection;
     LayersController m_layers;
+    DimStylesController m_dimStyles;
     DrawingInfo m_drawingInfo;
     DrawingPanels m_drawingPanels;
     PartsController m_parts;

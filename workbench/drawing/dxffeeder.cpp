@@ -54,7 +54,7 @@ bool DxfFeeder::feed(const std::function<bool(double share)>& progress)
         feedObject(range);
         start = range.second;
     }
-    addLayouts();
+    m_records.finish();
     checkNesting();
     return true;
 }
@@ -72,20 +72,24 @@ void DxfFeeder::feedObject(const Range& range)
     const DxfGroup& first = m_groups[range.first];
     const std::string_view type = first.value;
     if (first.code == 0 && type == "SECTION") {
-        m_section = valueOf(range, 2);
+        m_section = valueOf(groupsOf(range), 2);
         feedGroup(0, type);
-        if (m_section == "HEADER") // all of its variables are a part of this object
+        if (m_section == "HEADER") { // all of its variables are a part of this object
+            m_records.noteHeader(groupsOf(range));
             for (std::size_t i = range.first + 2; i < range.second; ++i)
                 feedValue(type, m_groups[i]);
+        }
     } else if (first.code == 0 && isOneOf(type, {"ENDSEC", "EOF"})) {
         feedGroup(0, type);
         m_builder.endBlock();
         m_section = {};
-    } else if (m_section == "TABLES" && isOneOf(type, {"LAYER", "LTYPE", "STYLE"})) {
-        for (std::size_t i = range.first; i < range.second; ++i)
-            feedValue(type, m_groups[i]);
     } else if (m_section == "TABLES" || m_section == "OBJECTS") {
-        noteRecord(range, type);
+        if (m_section == "TABLES" && isOneOf(type, {"LAYER", "LTYPE", "STYLE"}))
+            for (std::size_t i = range.first; i < range.second; ++i)
+                feedValue(type, m_groups[i]);
+        else
+            feedGroup(0, "SKIPPED");
+        m_records.note(groupsOf(range));
     } else if (m_section == "BLOCKS" || m_section == "ENTITIES") {
         noteNesting(range, type);
         feedEntity(range, type);
@@ -95,7 +99,7 @@ void DxfFeeder::feedObject(const Range& range)
 void DxfFeeder::feedEntity(const Range& range, std::string_view type)
 {
     const bool isBlockMark = m_section == "BLOCKS" && isOneOf(type, {"BLOCK", "ENDBLK"});
-    if (type == "DIMENSION" && !valueOf(range, 2).empty()) {
+    if (type == "DIMENSION" && !valueOf(groupsOf(range), 2).empty()) {
         feedDimension(range);
     } else if (!isBlockMark && !isEntity(type)) {
         ++m_skipped[std::string(type)];
@@ -160,59 +164,9 @@ void DxfFeeder::feedGroup(int code, std::string_view value)
     m_dxf->readDxfGroups(m_stream, &m_builder);
 }
 
-void DxfFeeder::noteRecord(const Range& range, std::string_view type)
+DxfRecords::Groups DxfFeeder::groupsOf(const Range& range) const
 {
-    feedGroup(0, "SKIPPED");
-    const std::string_view name = valueOf(range, 2);
-    if (type == "DIMSTYLE" && !name.empty())
-        m_builder.database().addDimStyle(m_builder.text(name));
-    else if (type == "BLOCK_RECORD")
-        m_blockNames[valueOf(range, 5)] = m_builder.text(name);
-    else if (type == "LAYOUT")
-        noteLayout(range);
-}
-
-void DxfFeeder::noteLayout(const Range& range)
-{
-    bool inLayout = false;
-    std::wstring name;
-    std::wstring block;
-    for (std::size_t i = range.first; i < range.second; ++i) {
-        const DxfGroup& group = m_groups[i];
-        if (group.code == 100)
-            inLayout = group.value == "AcDbLayout";
-        else if (inLayout && group.code == 1)
-            name = m_builder.text(group.value);
-        else if (inLayout && group.code == 330)
-            block = m_blockNames[group.value];
-    }
-    if (!name.empty())
-        m_layouts.emplace_back(name, block);
-}
-
-void DxfFeeder::addLayouts()
-{
-    OdDbDatabase& database = m_builder.database();
-    // The one that every database has takes its name first, since another may have its old one.
-    std::stable_partition(m_layouts.begin(), m_layouts.end(),
-                          [](const auto& layout) { return lowered(layout.second) == L"*paper_space"; });
-    for (const auto& [name, blockName] : m_layouts) {
-        OdDbBlockTableRecord* block = database.findBlock(blockName);
-        if (!block || block == database.modelSpace())
-            continue;
-        if (auto* layout = block->getLayoutId().open<OdDbLayout>())
-            database.rename(*layout, name);
-        else
-            database.addLayout(name, block);
-    }
-}
-
-std::string_view DxfFeeder::valueOf(const Range& range, int code) const
-{
-    for (std::size_t i = range.first + 1; i < range.second; ++i)
-        if (m_groups[i].code == code)
-            return m_groups[i].value;
-    return {};
+    return DxfRecords::Groups(m_groups).subspan(range.first, range.second - range.first);
 }
 
 std::wstring DxfFeeder::blockName(std::string_view value) const
@@ -225,7 +179,7 @@ void DxfFeeder::noteNesting(const Range& range, std::string_view type)
     if (m_section != "BLOCKS")
         return;
     if (type == "BLOCK")
-        m_block = blockName(valueOf(range, 2));
+        m_block = blockName(valueOf(groupsOf(range), 2));
     else if (isOneOf(type, {"INSERT", "DIMENSION"}))
         for (std::size_t i = range.first; i < range.second; ++i)
             if (m_groups[i].code == 2)

@@ -2,6 +2,7 @@
 
 #include "drawing/databasebuilder.h"
 #include "drawing/dxfgroups.h"
+#include "drawing/dxfrecords.h"
 
 #include <dxflib/dl_dxf.h>
 
@@ -13,12 +14,13 @@
 namespace workbench {
 
 /// Hands a checked file to dxflib group by group, and only what it understands: counts are those of the points that are
-/// there, not those that the file claims. Dimension styles and layouts, which dxflib doesn't report, go to the
-/// builder's database from here.
+/// there, not those that the file claims. The records of tables and the objects go to DxfRecords as well.
 class DxfFeeder
 {
 public:
-    DxfFeeder(const DxfGroups& groups, DatabaseBuilder& builder) : m_groups(groups.groups), m_builder(builder) {}
+    DxfFeeder(const DxfGroups& groups, DatabaseBuilder& builder)
+        : m_groups(groups.groups), m_builder(builder), m_records(builder)
+    {}
 
     /// False when `progress`, which gets the share from 0 to 1, cancelled it. Throws DxfError for a block that contains
     /// itself.
@@ -42,12 +44,9 @@ private:
     void feedDimension(const Range& range);
     void feedValue(std::string_view type, const DxfGroup& group);
     void feedGroup(int code, std::string_view value);
-    void noteRecord(const Range& range, std::string_view type);
-    void noteLayout(const Range& range);
-    void addLayouts();
     void noteNesting(const Range& range, std::string_view type);
     void checkNesting() const;
-    std::string_view valueOf(const Range& range, int code) const;
+    DxfRecords::Groups groupsOf(const Range& range) const;
     std::wstring blockName(std::string_view value) const;
 
     /// dxflib leaves unset what object it is reading, and would add one before the first.
@@ -72,16 +71,15 @@ private:
 
     const std::vector<DxfGroup>& m_groups;
     DatabaseBuilder& m_builder;
+    DxfRecords m_records;
     ZeroedDxf m_dxf;
     LineBuffer m_buffer;
     std::istream m_stream{&m_buffer};
     std::string m_lines; // what m_buffer reads
     std::string_view m_section;
     std::map<std::string, int> m_skipped;
-    std::map<std::string_view, std::wstring> m_blockNames;        // by handle
-    std::vector<std::pair<std::wstring, std::wstring>> m_layouts; // their names and those of their blocks
-    std::wstring m_block;                                         // the one being defined, in lower case
-    std::map<std::wstring, std::vector<Nesting>> m_nestings;      // by the block that contains them
+    std::wstring m_block;                                    // the one being defined, in lower case
+    std::map<std::wstring, std::vector<Nesting>> m_nestings; // by the block that contains them
 };
 
 } // namespace workbench

@@ -244,6 +244,14 @@ std::string GroupChecker::holds(std::string_view value) const
 
 } // namespace
 
+std::string_view valueOf(std::span<const DxfGroup> object, int code)
+{
+    for (const DxfGroup& group : object.subspan(1))
+        if (group.code == code)
+            return group.value;
+    return {};
+}
+
 void loadDxfGroups(const std::filesystem::path& file, const std::function<bool(double share)>& progress,
                    DxfGroups& result)
 {

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <span>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -22,6 +23,9 @@ struct DxfGroup
     int code = 0;
     std::string_view value;
 };
+
+/// The first value of a code among the groups of an object, behind the group that names its type; or empty.
+std::string_view valueOf(std::span<const DxfGroup> object, int code);
 
 /// The groups of a DXF text file, checked: whole, in sections, with a finite number wherever one has to stand.
 /// Group i stands on the lines 2i+1 (its code) and 2i+2 (its value).

@@ -3,6 +3,7 @@
 #include "drawing/entitykind.h"
 #include "od/oddbdatabase.h"
 #include "panels/entitytext.h"
+#include "panels/propertytexts.h"
 #include "velm/bridge/conversions.h"
 
 #include <QCoreApplication>
@@ -26,80 +27,34 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(Properties)
 };
 
-/// A combo box of some values; a present value that is none of them comes last.
-template <typename Value>
-ObjectField choiceField(const QString& label, std::vector<Value> values, QList<QString> texts, const Value& present,
-                        const QString& presentText, std::function<void(const Value&)> apply)
-{
-    auto found = std::find(values.begin(), values.end(), present);
-    const auto index = static_cast<int>(found - values.begin());
-    if (found == values.end()) {
-        values.push_back(present);
-        texts.append(presentText);
-    }
-    const auto choose = [values, apply = std::move(apply)](const QVariant& value) {
-        const int chosen = value.toInt();
-        if (chosen >= 0 && chosen < static_cast<int>(values.size()))
-            apply(values[static_cast<std::size_t>(chosen)]);
-    };
-    return {label, Type::ComboBox, index, texts, choose, {}};
-}
-
 template <typename Object>
-ObjectField colorField(Object& object)
+ObjectField makeColorField(Object& object)
 {
     std::vector<OdCmColor> colors;
-    QList<QString> texts;
-    if constexpr (std::is_same_v<Object, OdDbEntity>) {
+    if constexpr (std::is_same_v<Object, OdDbEntity>)
         colors = {OdCmColor(OdCmColor::kByLayer), OdCmColor(OdCmColor::kByBlock)};
-        texts = {Texts::tr("By layer"), Texts::tr("By block")};
-    }
     for (std::uint16_t index = 1; index <= 7; ++index)
         colors.push_back(OdCmColor::fromIndex(index));
-    texts += {Texts::tr("Red"),  Texts::tr("Yellow"),  Texts::tr("Green"), Texts::tr("Cyan"),
-              Texts::tr("Blue"), Texts::tr("Magenta"), Texts::tr("White")};
-    const OdCmColor& present = object.color();
-    const QString presentText =
-        present.isByColor() ? QStringLiteral("%1, %2, %3").arg(present.red()).arg(present.green()).arg(present.blue())
-                            : Texts::tr("Colour %1").arg(present.colorIndex());
-    return choiceField<OdCmColor>(Texts::tr("Colour"), std::move(colors), std::move(texts), present, presentText,
+    return choiceField<OdCmColor>(Texts::tr("Colour"), std::move(colors), colorText, object.color(),
                                   [&object](const OdCmColor& color) { object.setColor(color); });
 }
 
-QString millimetres(int lineWeight)
-{
-    return Texts::tr("%1 mm").arg(lineWeight / 100.0, 0, 'f', 2);
-}
-
 template <typename Object>
-ObjectField lineWeightField(Object& object)
+ObjectField makeLineWeightField(Object& object)
 {
     std::vector<int> weights;
-    QList<QString> texts;
-    if constexpr (std::is_same_v<Object, OdDbEntity>) {
+    if constexpr (std::is_same_v<Object, OdDbEntity>)
         weights = {OdDb::kLnWtByLayer, OdDb::kLnWtByBlock};
-        texts = {Texts::tr("By layer"), Texts::tr("By block")};
-    }
     weights.push_back(OdDb::kLnWtByLwDefault);
-    texts.append(Texts::tr("Default"));
-    for (const int weight : lineWeights) {
-        weights.push_back(weight);
-        texts.append(millimetres(weight));
-    }
-    return choiceField<int>(Texts::tr("Lineweight"), std::move(weights), std::move(texts), object.lineWeight(),
-                            millimetres(object.lineWeight()), [&object](int weight) { object.setLineWeight(weight); });
+    weights.insert(weights.end(), lineWeights.begin(), lineWeights.end());
+    return choiceField<int>(Texts::tr("Lineweight"), std::move(weights), lineWeightText, object.lineWeight(),
+                            [&object](int weight) { object.setLineWeight(weight); });
 }
 
 ObjectField layerField(OdDbEntity& entity)
 {
-    std::vector<OdDbObjectId> ids;
-    QList<QString> names;
-    for (const OdDbLayerTableRecord* layer : entity.database()->layers()) {
-        ids.push_back(layer->objectId());
-        names.append(velm::toQt(layer->getName()));
-    }
-    return choiceField<OdDbObjectId>(Texts::tr("Layer"), std::move(ids), std::move(names), entity.layerId(),
-                                     Texts::tr("None"), [&entity](OdDbObjectId layer) { entity.setLayer(layer); });
+    return choiceField<OdDbObjectId>(Texts::tr("Layer"), idsOf(entity.database()->layers()), recordText,
+                                     entity.layerId(), [&entity](OdDbObjectId layer) { entity.setLayer(layer); });
 }
 
 ObjectField shownField(const QString& label, OdDbLayerTableRecord& layer)
@@ -134,8 +89,8 @@ std::vector<ObjectField> entityFields(OdDbEntity& entity)
     fields.push_back(layerField(entity));
     if (auto* layer = entity.layerId().open<OdDbLayerTableRecord>())
         fields.push_back(shownField(Texts::tr("Layer shown"), *layer));
-    fields.push_back(colorField(entity));
-    fields.push_back(lineWeightField(entity));
+    fields.push_back(makeColorField(entity));
+    fields.push_back(makeLineWeightField(entity));
     for (const EntityMeasure& measure : entityMeasures(entity))
         fields.push_back(readOnlyField(measure.label, measure.value));
     return fields;
@@ -161,6 +116,39 @@ std::vector<ObjectField> layerFields(OdDbLayerTableRecord& layer)
             lineWeightField(layer)};
 }
 } // namespace
+
+QString recordText(OdDbObjectId id)
+{
+    const auto* record = id.open<OdDbSymbolTableRecord>();
+    return record ? velm::toQt(record->getName()) : Texts::tr("None");
+}
+
+ObjectField colorField(OdDbLayerTableRecord& layer)
+{
+    return makeColorField(layer);
+}
+
+ObjectField lineWeightField(OdDbLayerTableRecord& layer)
+{
+    return makeLineWeightField(layer);
+}
+
+OdDbObjectId layerLinetype(const OdDbLayerTableRecord& layer)
+{
+    const OdDbLinetypeTableRecord* continuous = layer.database()->findLinetype(L"Continuous");
+    return layer.linetypeObjectId().isNull() && continuous ? continuous->objectId() : layer.linetypeObjectId();
+}
+
+ObjectField linetypeField(OdDbLayerTableRecord& layer)
+{
+    std::vector<OdDbLinetypeTableRecord*> linetypes = layer.database()->linetypes();
+    // A layer has nothing to take these from.
+    std::erase_if(linetypes, [](const OdDbLinetypeTableRecord* linetype) {
+        return linetype->getName() == OdString(L"ByLayer") || linetype->getName() == OdString(L"ByBlock");
+    });
+    return choiceField<OdDbObjectId>(Texts::tr("Linetype"), idsOf(linetypes), recordText, layerLinetype(layer),
+                                     [&layer](OdDbObjectId linetype) { layer.setLinetypeObjectId(linetype); });
+}
 
 std::vector<ObjectField> objectFields(OdDbObject& object)
 {

@@ -8,7 +8,9 @@
 #include "host/pagepopup.h"
 #include "host/pageview.h"
 #include "velm/bridge/conversions.h"
+#include "velm/table/columns.h"
 
+#include <QAbstractItemModel>
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -38,6 +40,22 @@ QQuickItem* findBelow(QQuickItem* item, const QString& name)
     // Rows of a list are children of the view only, not of the page's objects.
     for (QQuickItem* child : item->childItems())
         if (QQuickItem* found = findBelow(child, name))
+            return found;
+    return nullptr;
+}
+
+/// Cells have no names of their own.
+QQuickItem* findCell(QQuickItem* item, const QAbstractItemModel& model, const QString& row, const QString& columnId)
+{
+    if (!item || !item->isVisible())
+        return nullptr;
+    const QVariant itsRow = item->property("row");
+    const QVariant itsColumn = item->property("column");
+    if (itsRow.isValid() && itsColumn.isValid() && model.index(itsRow.toInt(), 0).data().toString() == row &&
+        model.headerData(itsColumn.toInt(), Qt::Horizontal, velm::ColumnIdRole) == columnId)
+        return item;
+    for (QQuickItem* child : item->childItems())
+        if (QQuickItem* found = findCell(child, model, row, columnId))
             return found;
     return nullptr;
 }
@@ -100,6 +118,11 @@ PagePopup* Driver::popup()
 
 QQuickItem* Driver::findItem(const QString& name)
 {
+    if (const QStringList parts = name.split('/'); parts.size() == 3) {
+        QQuickItem* table = findItem(parts[0]);
+        const auto* model = table ? table->property("model").value<QAbstractItemModel*>() : nullptr;
+        return model ? findCell(table, *model, parts[1], parts[2]) : nullptr;
+    }
     if (const PagePopup* open = popup())
         if (QQuickItem* item = findBelow(open->view()->contentItem(), name))
             return item;

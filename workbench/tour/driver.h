@@ -59,7 +59,8 @@ public:
     void waitFor(const QString& what, const std::function<bool()>& condition, int milliseconds = 10000);
 
     // Items of pages by their object names. The item is awaited, in the open popup or any page that is
-    // on the screen.
+    // on the screen. A cell of a table has a name of three parts, as in "layers/Walls/on": the table's, what the row
+    // shows in the first column, and the id of the column.
     bool hasItem(const QString& name);
     QVariant property(const QString& name, const char* property);
     void clickItem(const QString& name, int button = 1, const QString& modifier = {});

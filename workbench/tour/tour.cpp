@@ -51,10 +51,15 @@ private:
     void waitForLog(const QString& text);
     void showPanel(const char* title);
     QString layerName(int row);
+    QString layerCell(int row, const char* column);
+    OdDbLayerTableRecord* layer(const wchar_t* name);
     QPoint placeOfAnEntity();
 
     void openDrawing();
     void switchLayer();
+    void sortLayers();
+    void editLayer();
+    void searchLayers();
     void openContextMenu();
     void showGrid();
     void showDrawingPanel();
@@ -114,24 +119,74 @@ void Tour::openDrawing()
     if (!m_hasDrawing)
         m_driver.command("OPEN " + write("small.dxf", smallDrawing));
     m_driver.waitFor(
-        "the drawing's layers in the list", [&] { return m_frame.layers().layers()->rowCount() > 2; }, 30000);
+        "the drawing's layers in the list", [&] { return m_frame.layers().table()->rowCount() > 2; }, 30000);
     m_driver.waitFor("the drawing on the canvas", [&] { return m_frame.canvas().drawnEntityCount() > 0; });
-    m_driver.waitFor("the list on the screen", [&] { return m_driver.hasItem("layer:0"); });
+    m_driver.waitFor("the list on the screen", [&] { return m_driver.hasItem("layers/0/name"); });
 }
 
 QString Tour::layerName(int row)
 {
-    return m_driver.ask([&] { return m_frame.layers().layers()->index(row, 0).data().toString(); });
+    return m_driver.ask([&] { return m_frame.layers().table()->index(row, 0).data().toString(); });
+}
+
+QString Tour::layerCell(int row, const char* column)
+{
+    return QStringLiteral("layers/%1/%2").arg(layerName(row), column);
+}
+
+OdDbLayerTableRecord* Tour::layer(const wchar_t* name)
+{
+    return m_driver.ask([&] { return m_frame.documents().current()->database()->findLayer(name); });
 }
 
 void Tour::switchLayer()
 {
     const size_t before = m_driver.ask([&] { return m_frame.canvas().drawnEntityCount(); });
-    m_driver.clickItem("on:" + layerName(1));
+    m_driver.clickItem(layerCell(1, "on"));
     m_driver.waitFor("fewer entities on the canvas", [&] { return m_frame.canvas().drawnEntityCount() < before; });
     save("a-layer-switched-off");
-    m_driver.clickItem("on:" + layerName(1));
+    m_driver.clickItem(layerCell(1, "on"));
     m_driver.waitFor("all entities on the canvas", [&] { return m_frame.canvas().drawnEntityCount() == before; });
+}
+
+void Tour::sortLayers()
+{
+    const QString first = layerName(0);
+    const QString last = layerName(m_driver.ask([&] { return m_frame.layers().table()->rowCount() - 1; }));
+    m_driver.clickItem("header:Name");
+    m_driver.waitFor("the layers from the last name to the first", [&] { return layerName(0) == last; });
+    save("layers-from-the-end");
+    m_driver.clickItem("header:Name");
+    m_driver.waitFor("the layers from the first name to the last", [&] { return layerName(0) == first; });
+}
+
+void Tour::editLayer()
+{
+    m_driver.clickItem(layerCell(1, "name"));
+    m_driver.key("F2");
+    m_driver.waitFor("the keyboard in the name", [&] { return m_driver.itemHasFocus("editor"); });
+    m_driver.replaceText("Edited in the table");
+    save("layer-name-in-place");
+    m_driver.key("Return");
+    m_driver.waitFor("the name in the drawing", [&] { return layer(L"Edited in the table") != nullptr; });
+    check(layerName(1) == "Edited in the table", "the row stays where it is");
+    m_driver.clickItem(layerCell(1, "color"));
+    m_driver.waitFor("the colours", [&] { return m_driver.itemHasFocus("choice"); });
+    save("layer-colours-to-choose");
+    m_driver.key("Home");
+    m_driver.key("Return");
+    m_driver.waitFor("the colour in the drawing",
+                     [&] { return layer(L"Edited in the table")->color() == OdCmColor::fromIndex(1); });
+}
+
+void Tour::searchLayers()
+{
+    m_driver.clickItem("search");
+    m_driver.type("EDITED");
+    m_driver.waitFor("the layer alone", [&] { return m_frame.layers().table()->rowCount() == 1; });
+    save("layers-searched");
+    m_driver.key("Escape");
+    m_driver.waitFor("all layers", [&] { return m_frame.layers().table()->rowCount() > 2; });
 }
 
 /// On the screen, where a menu has room within the window.
@@ -191,7 +246,7 @@ void Tour::showBrokenPage()
 
 void Tour::startRenaming()
 {
-    m_driver.clickItem("layer:" + layerName(1));
+    m_driver.clickItem(layerCell(1, "name"));
     m_driver.clickItem("rename");
     m_driver.waitForDialog("Rename Layer");
     m_driver.waitFor("the keyboard in the name field", [&] { return m_driver.itemHasFocus("name"); });
@@ -218,7 +273,7 @@ void Tour::acceptName()
     m_driver.waitFor("the name in the field", [&] { return m_driver.property("name", "text") == "Toured"; });
     m_driver.clickItem("accept");
     m_driver.waitForNoDialog();
-    m_driver.waitFor("the new name in the list", [&] { return m_driver.hasItem("layer:Toured"); });
+    m_driver.waitFor("the new name in the list", [&] { return m_driver.hasItem("layers/Toured/name"); });
     m_driver.waitFor("the keyboard in the panel again", [] { return QGuiApplication::focusWindow() != nullptr; });
 }
 
@@ -241,11 +296,11 @@ void Tour::switchTheme()
 void Tour::refuseDrawing()
 {
     const QString file = write("damaged.dxf", "  0\nSECTION\n  2\nENTITIES\n  0\nLINE\n 10\n1.0\n 2");
-    const int layers = m_driver.ask([&] { return m_frame.layers().layers()->rowCount(); });
+    const int layers = m_driver.ask([&] { return m_frame.layers().table()->rowCount(); });
     m_driver.command("OPEN " + file);
     m_driver.waitForDialog("Open Drawing");
     check(m_driver.dialogText().contains("damaged.dxf"), "the message names the file");
-    check(m_driver.ask([&] { return m_frame.layers().layers()->rowCount(); }) == layers, "the open drawing stays");
+    check(m_driver.ask([&] { return m_frame.layers().table()->rowCount(); }) == layers, "the open drawing stays");
 }
 
 void Tour::rebuildEngine()
@@ -254,14 +309,14 @@ void Tour::rebuildEngine()
     m_driver.waitForNoDialog();
     m_driver.command("REBUILD");
     waitForLog("The pages run in a new engine.");
-    m_driver.waitFor("the pages with what they showed", [&] { return m_driver.hasItem("layer:Toured"); });
+    m_driver.waitFor("the pages with what they showed", [&] { return m_driver.hasItem("layers/Toured/name"); });
 }
 
 void Tour::closeDrawing()
 {
     m_driver.key("Escape");
     m_driver.key("ctrl+w");
-    m_driver.waitFor("an empty list", [&] { return m_frame.layers().layers()->rowCount() == 0; });
+    m_driver.waitFor("an empty list", [&] { return m_frame.layers().table()->rowCount() == 0; });
 }
 
 int Tour::run(bool hasDrawing)
@@ -272,6 +327,9 @@ int Tour::run(bool hasDrawing)
     const std::pair<const char*, std::function<void(Tour*)>> steps[] = {
         {"open-drawing", &Tour::openDrawing},
         {"layers-panel", &Tour::switchLayer},
+        {"layers-sorted", &Tour::sortLayers},
+        {"layer-edited", &Tour::editLayer},
+        {"layers-found-again", &Tour::searchLayers},
         {"context-menu", &Tour::openContextMenu},
         {"grid", &Tour::showGrid},
         {"drawing-panel", &Tour::showDrawingPanel},

@@ -1,0 +1,18 @@
+import QtQuick
+import Tandolin.API.Controls
+
+// The dimension styles of the drawing.
+PanelPage {
+    id: page
+
+    required property var controller
+
+    RecordTable {
+        anchors.fill: parent
+        controller: page.controller
+        name: "dimStyles"
+        searchHint: qsTr("Search dimension styles")
+        nothingFound: qsTr("No dimension style's name contains this text.")
+        noDrawing: qsTr("Open a drawing to see its dimension styles.")
+    }
+}
