@@ -17,10 +17,10 @@ namespace velm {
 /// "isSelected", "isHovered", "beginedit", "isPreFocusCell" and "isFocusCell"; their numbers differ from source to
 /// source, and roleNames() tells them.
 ///
-/// "Source" in a name means the source's numbering of rows and columns, "proxy" the one shown. Slots ignore bad indexes.
-/// Rows don't move when cells change: sorting is always asked for. A reset of the source loses the sort, the selection
-/// and the order of the columns, until loadColumnData().
-/// Not supported: writing headers, and inserting and removing columns, through the proxy.
+/// "Source" in a name means the source's numbering of rows and columns, "proxy" the one shown. Slots ignore bad
+/// indexes. Rows don't move when cells change: sorting is always asked for. A reset of the source loses the sort, the
+/// selection and the order of the columns, until loadColumnData(). Not supported: writing headers, and inserting and
+/// removing columns, through the proxy.
 class VELM_EXPORT SortFilterSelectModel : public QSortFilterProxyModel
 {
     Q_OBJECT

@@ -1,0 +1,476 @@
+// The columns of the table: which source column stands where, and how views are told of it.
+//
+// The base class numbers visible columns in the source's order and knows nothing of another one. Where it inserts or
+// removes columns itself, the table is brought into the source's order before and into its own again behind, so that
+// what it tells of, and the persistent indexes that it moves, are the right ones.
+
+#include "velm/table/columns.h"
+#include "velm/table/sortfilterselectmodel_p.h"
+
+#include <QSize>
+
+#include <algorithm>
+#include <limits>
+#include <numeric>
+
+namespace velm {
+namespace {
+constexpr int defaultWidth = 100;
+constexpr int insertedWidth = 80;
+
+std::vector<int> sorted(std::vector<int> columns)
+{
+    std::sort(columns.begin(), columns.end());
+    return columns;
+}
+
+/// Calls `use` with the first and last of each run of neighbours among proxy columns.
+void forEachRun(std::vector<int> places, auto use)
+{
+    std::sort(places.begin(), places.end());
+    for (auto first = places.begin(); first != places.end();) {
+        auto last = first;
+        while (std::next(last) != places.end() && *std::next(last) == *last + 1)
+            ++last;
+        use(*first, *last);
+        first = std::next(last);
+    }
+}
+
+/// A selection told by source columns, to be taken away before columns move and to be put back behind.
+class KeptSelection
+{
+public:
+    KeptSelection(SortFilterSelectModel& model, const ColumnMap& columns) : m_model(model), m_columns(columns)
+    {
+        for (const QItemSelectionRange& range : model.selectionModel()->selection()) {
+            Rows rows{range.parent(), range.top(), range.bottom(), {}};
+            for (int column = range.left(); column <= range.right(); ++column)
+                rows.sourceColumns.push_back(columns.toSource(column));
+            m_rows.push_back(std::move(rows));
+        }
+        model.selectionModel()->clearSelection();
+    }
+
+    void putBack() const
+    {
+        QItemSelection selection;
+        for (const Rows& rows : m_rows) {
+            std::vector<int> places;
+            for (const int source : rows.sourceColumns)
+                places.push_back(m_columns.toProxy(source));
+            forEachRun(places, [&](int first, int last) {
+                selection.append(QItemSelectionRange(m_model.index(rows.top, first, rows.parent),
+                                                     m_model.index(rows.bottom, last, rows.parent)));
+            });
+        }
+        m_model.selectionModel()->select(selection, QItemSelectionModel::Select);
+    }
+
+private:
+    struct Rows
+    {
+        QPersistentModelIndex parent;
+        int top;
+        int bottom;
+        std::vector<int> sourceColumns;
+    };
+
+    SortFilterSelectModel& m_model;
+    const ColumnMap& m_columns;
+    std::vector<Rows> m_rows;
+};
+} // namespace
+
+// What the source says of its columns.
+
+int SortFilterSelectModel::Pimpl::headerWidth(int sourceColumn) const
+{
+    const int width = header(sourceColumn, Qt::SizeHintRole).toSize().width();
+    return width > 0 ? width : defaultWidth;
+}
+
+int SortFilterSelectModel::Pimpl::headerProportionalWidth(int sourceColumn) const
+{
+    return std::max(header(sourceColumn, ColumnProportionalSizeRole).toInt(), 0);
+}
+
+bool SortFilterSelectModel::Pimpl::isHeaderVisible(int sourceColumn) const
+{
+    const QVariant visible = header(sourceColumn, ColumnInitiallyVisibleRole);
+    return visible.metaType().id() != QMetaType::Bool || visible.toBool();
+}
+
+void SortFilterSelectModel::Pimpl::resetColumns(const QAbstractItemModel* source)
+{
+    const int count = source ? source->columnCount() : 0;
+    std::vector<ColumnState> states(static_cast<std::size_t>(count));
+    std::vector<int> order;
+    for (int column = 0; column < count; ++column) {
+        const auto ask = [&](int role) { return source->headerData(column, Qt::Horizontal, role); };
+        const int width = ask(Qt::SizeHintRole).toSize().width();
+        const QVariant visible = ask(ColumnInitiallyVisibleRole);
+        states[static_cast<std::size_t>(column)] = {column, width > 0 ? width : defaultWidth,
+                                                    std::max(ask(ColumnProportionalSizeRole).toInt(), 0), true};
+        if (visible.metaType().id() != QMetaType::Bool || visible.toBool())
+            order.push_back(column);
+    }
+    columns.reset(std::move(states), std::move(order));
+}
+
+bool SortFilterSelectModel::Pimpl::isPermuted() const
+{
+    return !std::is_sorted(columns.order().begin(), columns.order().end());
+}
+
+bool SortFilterSelectModel::filterAcceptsColumn(int sourceColumn, const QModelIndex& /*sourceParent*/) const
+{
+    return m_pimpl->columns.isVisible(sourceColumn);
+}
+
+bool SortFilterSelectModel::isSourceColumnVisible(int sourceColumn) const
+{
+    return m_pimpl->columns.isVisible(sourceColumn);
+}
+
+// Changes of the order.
+
+/// The same columns in another order.
+void SortFilterSelectModel::Pimpl::reorder(std::vector<int> order)
+{
+    if (order == columns.order())
+        return;
+    const KeptSelection selection(*q, columns);
+    Q_EMIT q->layoutAboutToBeChanged({}, QAbstractItemModel::HorizontalSortHint);
+    const QModelIndexList from = q->persistentIndexList();
+    const ColumnMap before = columns;
+    columns.setOrder(std::move(order));
+    QModelIndexList to;
+    to.reserve(from.size());
+    for (const QModelIndex& index : from)
+        to.append(
+            q->createIndex(index.row(), columns.toProxy(before.toSource(index.column())), index.internalPointer()));
+    q->changePersistentIndexList(from, to);
+    Q_EMIT q->layoutChanged({}, QAbstractItemModel::HorizontalSortHint);
+    selection.putBack();
+}
+
+/// Other columns, with their order; applies the filters.
+void SortFilterSelectModel::Pimpl::showColumns(std::vector<int> order)
+{
+    const ColumnMap before = columns;
+    if (sorted(order) == sorted(before.order())) {
+        reorder(std::move(order));
+        q->invalidateFilter();
+        return;
+    }
+    reorder(sorted(before.order()));
+    columns.setOrder(sorted(order));
+    q->invalidateFilter();
+    reorder(std::move(order));
+    for (int column = 0; column < columns.sourceCount(); ++column)
+        if (!columns.isVisible(column))
+            columns.setPosition(column, before.state(column)->position);
+}
+
+void SortFilterSelectModel::moveColumn(int from, int to)
+{
+    if (from == to)
+        return;
+    const auto isValid = [this](int column) { return column >= 0 && column < columnCount(); };
+    const auto debug = [] { return QMessageLogger(nullptr, 0, nullptr).debug(); };
+    if (!isValid(from)) {
+        debug() << "move from column," << from << ", is not valid";
+        return;
+    }
+    if (!isValid(to)) {
+        debug() << "move to column," << to << ", is not valid";
+        return;
+    }
+    Pimpl& p = *m_pimpl;
+    const KeptSelection selection(*this, p.columns);
+    const int destination = to > from ? to + 1 : to;
+    if (!beginMoveColumns(QModelIndex(), from, from, QModelIndex(), destination)) {
+        debug() << "Invalid move operation. from:" << from << "to index:" << destination;
+        return;
+    }
+    const ColumnMap before = p.columns;
+    std::vector<int> order = before.order();
+    const int source = order[static_cast<std::size_t>(from)];
+    order.erase(order.begin() + from);
+    order.insert(order.begin() + to, source);
+    p.columns.setOrder(std::move(order));
+    // The move concerns top-level cells alone, but their children have the same columns.
+    for (const QModelIndex& index : persistentIndexList())
+        if (index.parent().isValid())
+            changePersistentIndex(index, createIndex(index.row(), p.columns.toProxy(before.toSource(index.column())),
+                                                     index.internalPointer()));
+    endMoveColumns();
+    Q_EMIT proxySortColumnChanged();
+    selection.putBack();
+}
+
+void SortFilterSelectModel::setSourceColumnVisible(int sourceColumn, bool visible)
+{
+    Pimpl& p = *m_pimpl;
+    if (!p.columns.state(sourceColumn))
+        return;
+    if (!visible && p.columns.shownCount() < 2)
+        return;
+    if (visible != p.columns.isVisible(sourceColumn))
+        p.showColumns(visible ? p.columns.orderWith(sourceColumn) : p.columns.orderWithout(sourceColumn));
+    Q_EMIT proxySortColumnChanged();
+}
+
+void SortFilterSelectModel::showAllColumns()
+{
+    if (!sourceModel())
+        return;
+    ColumnMap shown = m_pimpl->columns;
+    for (int column = 0; column < shown.sourceCount(); ++column)
+        shown.setOrder(shown.orderWith(column));
+    m_pimpl->showColumns(shown.order());
+    Q_EMIT proxySortColumnChanged();
+}
+
+void SortFilterSelectModel::restoreColumnPositions()
+{
+    beginResetModel();
+    m_pimpl->columns.setOrder(sorted(m_pimpl->columns.order()));
+    endResetModel();
+    Q_EMIT proxySortColumnChanged();
+}
+
+// Widths.
+
+void SortFilterSelectModel::resizeColumn(int proxyColumn, int newSize)
+{
+    m_pimpl->columns.setWidth(mapProxyColumnToSource(proxyColumn), newSize);
+}
+
+void SortFilterSelectModel::setColumnWidth(int proxyColumn, int width)
+{
+    if (width >= 0)
+        resizeColumn(proxyColumn, width);
+}
+
+int SortFilterSelectModel::columnWidth(int proxyColumn) const
+{
+    const ColumnState* state = m_pimpl->columns.state(mapProxyColumnToSource(proxyColumn));
+    return state ? state->width : defaultWidth;
+}
+
+int SortFilterSelectModel::columnProportionalWidth(int proxyColumn) const
+{
+    const ColumnState* state = m_pimpl->columns.state(mapProxyColumnToSource(proxyColumn));
+    return state ? state->proportionalWidth : 0;
+}
+
+namespace {
+int sumOverColumns(int count, auto width)
+{
+    using Limits = std::numeric_limits<int>;
+    long long sum = 0;
+    for (int column = 0; column < count; ++column)
+        sum += width(column);
+    return static_cast<int>(std::clamp<long long>(sum, Limits::min(), Limits::max()));
+}
+} // namespace
+
+int SortFilterSelectModel::naturalWidth() const
+{
+    return sumOverColumns(m_pimpl->columns.shownCount(), [this](int column) { return columnWidth(column); });
+}
+
+int SortFilterSelectModel::proportionalWidth() const
+{
+    return sumOverColumns(m_pimpl->columns.shownCount(),
+                          [this](int column) { return columnProportionalWidth(column); });
+}
+
+// Persistence.
+
+std::optional<columnpersistence::SavedColumn> SortFilterSelectModel::Pimpl::savedColumn(int sourceColumn,
+                                                                                        int defaultPosition) const
+{
+    return columnpersistence::read(header(sourceColumn, ColumnIdRole).toString(),
+                                   {headerWidth(sourceColumn), defaultPosition, isHeaderVisible(sourceColumn)},
+                                   parentId);
+}
+
+void SortFilterSelectModel::saveColumnData() const
+{
+    if (!sourceModel())
+        return;
+    std::vector<columnpersistence::NamedState> columns;
+    for (int column = 0; column < m_pimpl->columns.sourceCount(); ++column)
+        columns.push_back({m_pimpl->header(column, ColumnIdRole).toString(), *m_pimpl->columns.state(column)});
+    columnpersistence::writeAll(std::move(columns), m_pimpl->parentId);
+}
+
+void SortFilterSelectModel::loadColumnData()
+{
+    Pimpl& p = *m_pimpl;
+    if (!sourceModel() || p.columns.shownCount() == 0)
+        return;
+    struct Saved
+    {
+        int source;
+        columnpersistence::SavedColumn column;
+    };
+    std::vector<Saved> saved;
+    for (int column = 0; column < p.columns.sourceCount(); ++column)
+        if (const auto found = p.savedColumn(column, 0))
+            saved.push_back({column, *found});
+    std::stable_sort(saved.begin(), saved.end(), [](const Saved& left, const Saved& right) {
+        return left.column.position < right.column.position;
+    });
+    std::vector<int> order;
+    for (const Saved& entry : saved) {
+        p.columns.setWidth(entry.source, entry.column.width);
+        if (entry.column.visible && entry.column.position >= 0)
+            order.push_back(entry.source);
+    }
+    // The columns first: the base class finds the one to sort by among those that it shows.
+    p.showColumns(order.empty() ? p.columns.order() : std::move(order));
+    p.applyInitialSort(true);
+}
+
+// Columns that come and go in the source.
+
+bool SortFilterSelectModel::Pimpl::isColumnRange(const QModelIndex& parent, int first, int last) const
+{
+    return !parent.isValid() && first >= 0 && first <= columns.sourceCount() && first <= last;
+}
+
+void SortFilterSelectModel::Pimpl::columnsAboutToBeInserted(const QModelIndex& parent, int first, int last)
+{
+    if (!isColumnRange(parent, first, last))
+        return;
+    std::vector<ColumnState> states;
+    for (int column = first; column <= last; ++column)
+        states.push_back({-1, insertedWidth, headerProportionalWidth(column), true});
+    columns.insert(first, states);
+}
+
+void SortFilterSelectModel::Pimpl::columnsInserted(const QModelIndex& parent, int first, int last)
+{
+    if (!isColumnRange(parent, first, last))
+        return;
+    std::vector<int> order = columns.order();
+    for (int column = first; column <= last && column < columns.sourceCount(); ++column) {
+        int width = headerWidth(column);
+        bool visible = isHeaderVisible(column);
+        const int size = static_cast<int>(order.size());
+        int position = std::min(columns.state(column)->position, size);
+        if (const auto saved = savedColumn(column, position)) {
+            width = saved->width;
+            visible = saved->visible;
+            position = std::clamp(saved->position, 0, size);
+            columns.setPosition(column, position);
+        }
+        columns.setWidth(column, width);
+        if (visible)
+            order.insert(order.begin() + position, column);
+    }
+    showColumns(std::move(order));
+    cursor.forgetFocus();
+    if (first <= sourceSortColumn)
+        sourceSortColumn += first - last + 1; // exact for one column only: this must stay
+    Q_EMIT q->proxySortColumnChanged();
+}
+
+void SortFilterSelectModel::Pimpl::saveRemovedColumns(const QModelIndex& parent, int first, int last)
+{
+    if (!isColumnRange(parent, first, last))
+        return;
+    for (int column = first; column <= last; ++column)
+        if (const ColumnState* state = columns.state(column))
+            columnpersistence::write(header(column, ColumnIdRole).toString(), *state, parentId);
+    orderToRestore = columns.order();
+    reorder(sorted(columns.order()));
+}
+
+void SortFilterSelectModel::Pimpl::columnsAboutToBeRemoved(const QModelIndex& parent, int first, int last)
+{
+    if (!isColumnRange(parent, first, last))
+        return;
+    columns.remove(first, last);
+}
+
+void SortFilterSelectModel::Pimpl::columnsRemoved(const QModelIndex& parent, int first, int last)
+{
+    if (parent.isValid() || first < 0 || first > last)
+        return;
+    q->invalidateFilter();
+    if (auto order = std::exchange(orderToRestore, std::nullopt)) {
+        std::erase_if(*order, [=](int column) { return column >= first && column <= last; });
+        for (int& column : *order)
+            if (column > last)
+                column -= last - first + 1;
+        if (sorted(*order) == columns.order())
+            reorder(std::move(*order));
+    }
+    if (first <= sourceSortColumn)
+        sourceSortColumn = last < sourceSortColumn ? sourceSortColumn - first - 1 + last // exact for one column only:
+                                                   : -1;                                 // this must stay
+    Q_EMIT q->proxySortColumnChanged();
+}
+
+// Changed cells and headers.
+
+void SortFilterSelectModel::Pimpl::beginForwarding(bool byColumn)
+{
+    // With these two on, the base class may tell of rows and layout as well.
+    isForwarding = byColumn && isPermuted();
+    if (isForwarding && !q->dynamicSortFilter() && !q->isRecursiveFilteringEnabled())
+        signalsWereBlocked = q->blockSignals(true);
+    else
+        signalsWereBlocked = q->signalsBlocked();
+}
+
+bool SortFilterSelectModel::Pimpl::endForwarding()
+{
+    if (isForwarding)
+        q->blockSignals(signalsWereBlocked);
+    return std::exchange(isForwarding, false);
+}
+
+void SortFilterSelectModel::Pimpl::forwardDataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
+                                                      const QList<int>& roles)
+{
+    if (!topLeft.isValid() || !bottomRight.isValid())
+        return;
+    const QModelIndex parent = topLeft.parent();
+    const int anyColumn = columns.toSource(0);
+    int top = std::numeric_limits<int>::max();
+    int bottom = -1;
+    QModelIndex shown;
+    for (int row = topLeft.row(); row <= bottomRight.row(); ++row) {
+        const QModelIndex cell = q->mapFromSource(q->sourceModel()->index(row, anyColumn, parent));
+        if (!cell.isValid())
+            continue;
+        shown = cell;
+        top = std::min(top, cell.row());
+        bottom = std::max(bottom, cell.row());
+    }
+    if (!shown.isValid())
+        return;
+    std::vector<int> places;
+    for (int column = topLeft.column(); column <= bottomRight.column(); ++column)
+        if (columns.isVisible(column))
+            places.push_back(columns.toProxy(column));
+    forEachRun(std::move(places), [&](int first, int last) {
+        Q_EMIT q->dataChanged(shown.sibling(top, first), shown.sibling(bottom, last), roles);
+    });
+}
+
+void SortFilterSelectModel::Pimpl::forwardHeaderDataChanged(Qt::Orientation orientation, int first, int last)
+{
+    std::vector<int> places;
+    for (int column = first; column <= last; ++column)
+        if (columns.isVisible(column))
+            places.push_back(columns.toProxy(column));
+    forEachRun(std::move(places), [&](int begin, int end) { Q_EMIT q->headerDataChanged(orientation, begin, end); });
+}
+} // namespace velm

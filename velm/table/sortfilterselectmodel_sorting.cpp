@@ -1,0 +1,321 @@
+// Sorting and filtering of the table. Both are the base class's own; what is here is their order of steps, the keys
+// that make comparisons cheap, and a way around the base class's slowness where a filter changes in very many places.
+
+#include "velm/table/cellcomparison.h"
+#include "velm/table/columns.h"
+#include "velm/table/sortfilterselectmodel_p.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace velm {
+namespace {
+// The base class tells of each changed range of rows by itself and goes through all rows for it. Up to this product of
+// rows and ranges that takes less than making the order anew.
+constexpr qint64 cheapRangeSteps = 20'000'000;
+} // namespace
+
+// Sorting.
+
+bool SortFilterSelectModel::doSort(int proxyColumn, bool isAscending, bool force)
+{
+    Pimpl& p = *m_pimpl;
+    if (proxyColumn < 0 || proxyColumn >= p.columns.shownCount())
+        return false;
+    const int source = p.columns.toSource(proxyColumn);
+    if (!force && isAscending == ascending() && source == p.sourceSortColumn)
+        return false;
+    if (p.columns.state(source) && source - p.columns.hiddenBefore(source) >= 0) {
+        p.sourceSortColumn = source;
+        const QVariant type = p.header(source, ColumnSortTypeRole);
+        p.sortType = type.isValid() && type.canConvert<int>() ? type.toInt() : static_cast<int>(SortByValueType);
+    } else {
+        p.sourceSortColumn = -1;
+    }
+    sortBySourceColumn(source, isAscending ? Qt::AscendingOrder : Qt::DescendingOrder);
+    Q_EMIT ascendingChanged(isAscending);
+    Q_EMIT proxySortColumnChanged();
+    return true;
+}
+
+void SortFilterSelectModel::sortBySourceColumn(int sourceColumn, Qt::SortOrder order)
+{
+    Pimpl& p = *m_pimpl;
+    if (p.sortSourceModel) {
+        if (sourceModel())
+            sourceModel()->sort(sourceColumn, order);
+        p.sourceSortDescending = order == Qt::DescendingOrder;
+        return;
+    }
+    if (sourceColumn < 0) {
+        sort(-1, Qt::AscendingOrder);
+        return;
+    }
+    const int baseColumn = p.sourceSortColumn - p.columns.hiddenBefore(p.sourceSortColumn);
+    if (baseColumn >= 0 && baseColumn < columnCount())
+        p.sortBase(baseColumn, order);
+}
+
+void SortFilterSelectModel::unSort()
+{
+    Pimpl& p = *m_pimpl;
+    p.sourceSortColumn = -1;
+    if (p.sortSourceModel) {
+        if (sourceModel())
+            sourceModel()->sort(-1, Qt::AscendingOrder);
+        p.sourceSortDescending = false;
+    } else {
+        sort(-1, Qt::AscendingOrder);
+    }
+    Q_EMIT proxySortColumnChanged();
+}
+
+bool SortFilterSelectModel::isInitiallyAscending(int proxyColumn) const
+{
+    const QVariant order = headerData(proxyColumn, Qt::Horizontal, Qt::InitialSortOrderRole);
+    return !order.isValid() || order.toInt() == Qt::AscendingOrder;
+}
+
+int SortFilterSelectModel::proxySortColumn() const
+{
+    const ColumnState* state = m_pimpl->columns.state(m_pimpl->sourceSortColumn);
+    return state ? state->position : m_pimpl->sourceSortColumn;
+}
+
+bool SortFilterSelectModel::ascending() const
+{
+    return m_pimpl->sortSourceModel ? !m_pimpl->sourceSortDescending : sortOrder() == Qt::AscendingOrder;
+}
+
+void SortFilterSelectModel::setAscending(bool value)
+{
+    if (value == ascending())
+        return;
+    sortBySourceColumn(m_pimpl->sourceSortColumn, value ? Qt::AscendingOrder : Qt::DescendingOrder);
+    Q_EMIT ascendingChanged(value);
+}
+
+void SortFilterSelectModel::setSortColumn(int column)
+{
+    if (column == sortColumn())
+        return;
+    if (!sourceModel()) {
+        m_pimpl->pendingSortColumn = column;
+        return;
+    }
+    if (!doSort(column, ascending(), false))
+        m_pimpl->sortBase(column, sortOrder());
+    if (column == sortColumn())
+        Q_EMIT sortColumnChanged();
+}
+
+int SortFilterSelectModel::sortColumn() const
+{
+    return QSortFilterProxyModel::sortColumn();
+}
+
+bool SortFilterSelectModel::hasInitialSortColumn() const
+{
+    return m_pimpl->hasInitialSortColumn;
+}
+
+bool SortFilterSelectModel::sortSourceModel() const
+{
+    return m_pimpl->sortSourceModel;
+}
+
+void SortFilterSelectModel::setSortSourceModel(bool sortSource)
+{
+    if (sortSource == m_pimpl->sortSourceModel)
+        return;
+    m_pimpl->sortSourceModel = sortSource;
+    Q_EMIT sortSourceModelChanged();
+}
+
+Sorter* SortFilterSelectModel::sorter() const
+{
+    return m_pimpl->sorter;
+}
+
+void SortFilterSelectModel::setSorter(Sorter* sorter)
+{
+    m_pimpl->sorter = sorter;
+}
+
+void SortFilterSelectModel::Pimpl::applyInitialSort(bool force)
+{
+    const auto isInitial = [this](int column) { return header(column, ColumnIsInitialSortColumnRole).toBool(); };
+    int initial = 0;
+    while (initial < columns.sourceCount() && !isInitial(initial))
+        ++initial;
+    const bool found = initial < columns.sourceCount();
+    const bool changed = found != hasInitialSortColumn;
+    hasInitialSortColumn = found;
+    if (found) {
+        const int position = columns.state(initial)->position;
+        if (position >= 0)
+            q->doSort(position, q->isInitiallyAscending(position), force);
+    }
+    if (changed)
+        Q_EMIT q->hasInitialSortColumnChanged();
+}
+
+/// A sort by a column of the base class's numbering, with the keys of all shown rows made before.
+void SortFilterSelectModel::Pimpl::sortBase(int baseColumn, Qt::SortOrder order)
+{
+    const KeyScope scope(*this);
+    const std::optional<int> column = sourceColumnOfBase(baseColumn);
+    if (column && !sorter) {
+        const SortedCells cells{q->sourceModel(), {}, *column, q->sortRole(), shownRows()};
+        keys = {makeSortKeys(cells, sortType,
+                             [this](const QModelIndex& left, const QModelIndex& right) {
+                                 return q->QSortFilterProxyModel::lessThan(left, right);
+                             }),
+                {},
+                *column,
+                0};
+    }
+    q->sort(baseColumn, order);
+}
+
+std::optional<int> SortFilterSelectModel::Pimpl::sourceColumnOfBase(int baseColumn) const
+{
+    for (int column = 0; column < columns.sourceCount(); ++column)
+        if (columns.isVisible(column) && baseColumn-- == 0)
+            return column;
+    return std::nullopt;
+}
+
+/// The top-level rows of the source that the table shows, in the source's order.
+std::vector<int> SortFilterSelectModel::Pimpl::shownRows() const
+{
+    std::vector<int> rows(static_cast<std::size_t>(q->rowCount()));
+    if (q->rowCount() == q->sourceModel()->rowCount()) {
+        std::iota(rows.begin(), rows.end(), 0);
+        return rows;
+    }
+    for (std::size_t row = 0; row < rows.size(); ++row)
+        rows[row] = q->QSortFilterProxyModel::mapToSource(q->index(static_cast<int>(row), 0)).row();
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+/// The keys for the siblings of an index, or null while comparisons without them are cheaper.
+const SortKeys* SortFilterSelectModel::Pimpl::keysFor(const QModelIndex& sourceIndex)
+{
+    if (keyScopes == 0)
+        return nullptr;
+    const QModelIndex parent = sourceIsFlat ? QModelIndex() : sourceIndex.parent();
+    if (sourceIndex.column() != keys.column || parent != keys.parent)
+        keys = {nullptr, parent, sourceIndex.column(), 0};
+    if (keys.keys || sorter)
+        return keys.keys.get();
+    const int rows = sourceIndex.model()->rowCount(parent);
+    if (++keys.comparisons <= rows / 8)
+        return nullptr;
+    SortedCells cells{sourceIndex.model(), parent, sourceIndex.column(), q->sortRole(), {}};
+    cells.rows.resize(static_cast<std::size_t>(rows));
+    std::iota(cells.rows.begin(), cells.rows.end(), 0);
+    keys.keys = makeSortKeys(cells, sortType, [this](const QModelIndex& left, const QModelIndex& right) {
+        return q->QSortFilterProxyModel::lessThan(left, right);
+    });
+    return keys.keys.get();
+}
+
+bool SortFilterSelectModel::lessThan(const QModelIndex& left, const QModelIndex& right) const
+{
+    Pimpl& p = *m_pimpl;
+    if (const SortKeys* keys = p.keysFor(left))
+        return keys->lessThan(left.row(), right.row());
+    if (p.sorter)
+        return p.sorter->lessThan(left, right);
+    if (p.sortType == SortProxyDefault || p.sortType == SortProxyDefaultAlt)
+        return QSortFilterProxyModel::lessThan(left, right);
+    return cellcomparison::cellsLessThan(left, right, p.sortType, sortRole());
+}
+
+// Filtering.
+
+RowFilter* SortFilterSelectModel::filter() const
+{
+    return m_pimpl->rowFilter;
+}
+
+void SortFilterSelectModel::setFilter(RowFilter* filter)
+{
+    if (!filter || filter == m_pimpl->rowFilter)
+        return;
+    m_pimpl->rowFilter = filter;
+    // A filter that was set before stays connected: this must stay.
+    connect(filter, &RowFilter::invalidate, this, [this] { m_pimpl->filterInvalidated(); });
+    Q_EMIT filterChanged();
+}
+
+bool SortFilterSelectModel::filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const
+{
+    Pimpl& p = *m_pimpl;
+    if (!p.accepted.empty() && !sourceParent.isValid() && static_cast<std::size_t>(sourceRow) < p.accepted.size())
+        return p.accepted[static_cast<std::size_t>(sourceRow)];
+    if (p.rowFilter)
+        return p.rowFilter->rowFilter(sourceModel(), sourceRow, sourceParent);
+    return QSortFilterProxyModel::filterAcceptsRow(sourceRow, sourceParent);
+}
+
+void SortFilterSelectModel::Pimpl::filterInvalidated()
+{
+    const int before = q->rowCount();
+    applyFilter();
+    // Rows that came back aren't in order; those that stayed are.
+    if (q->rowCount() >= before)
+        q->doSort(q->mapSourceColumnToProxy(sourceSortColumn), q->ascending(), true);
+}
+
+/// As invalidateFilter(), but with one change of the layout in place of the signals for very many ranges of rows.
+void SortFilterSelectModel::Pimpl::applyFilter()
+{
+    const KeyScope scope(*this);
+    accepted.clear();
+    const QAbstractItemModel* const source = q->sourceModel();
+    const int rows = source ? source->rowCount() : 0;
+    if (qint64(rows) * rows <= cheapRangeSteps || q->columnCount() == 0) {
+        q->invalidateFilter();
+        return;
+    }
+
+    std::vector<char> now(static_cast<std::size_t>(rows));
+    for (int row = 0; row < rows; ++row)
+        now[static_cast<std::size_t>(row)] = q->filterAcceptsRow(row, QModelIndex());
+
+    // The rows that stay keep their order, those that come stand behind them.
+    const auto notShown = static_cast<std::uint32_t>(rows);
+    textranks::Ranks places(now.size(), notShown);
+    qint64 changedRanges = 0;
+    bool goes = false;
+    for (int row = 0; row < q->rowCount(); ++row) {
+        const auto sourceRow = static_cast<std::size_t>(q->QSortFilterProxyModel::mapToSource(q->index(row, 0)).row());
+        places[sourceRow] = static_cast<std::uint32_t>(row);
+        changedRanges += !now[sourceRow] && !goes;
+        goes = !now[sourceRow];
+    }
+    bool comes = false;
+    for (std::size_t row = 0; row < now.size(); ++row) {
+        const bool isNew = now[row] && places[row] == notShown;
+        changedRanges += isNew && !comes;
+        comes = isNew;
+    }
+
+    accepted = std::move(now);
+    if (changedRanges * rows <= cheapRangeSteps) {
+        q->invalidateFilter();
+    } else {
+        if (q->sortOrder() == Qt::DescendingOrder)
+            for (std::uint32_t& place : places)
+                place = notShown - place;
+        if (const auto column = sourceColumnOfBase(q->QSortFilterProxyModel::sortColumn()))
+            keys = {makeSortKeys(std::move(places)), {}, *column, 0};
+        q->invalidate();
+        q->rowCount(); // filters and sorts, if nothing else asked for it
+    }
+    accepted.clear();
+}
+} // namespace velm

@@ -1,0 +1,466 @@
+#include "velm/table/sortkeys.h"
+
+#include "od/odstring.h"
+#include "velm/bridge/conversions.h"
+#include "velm/bridge/externalfunctions.h"
+#include "velm/drawingprops/dimstylesorter.h"
+#include "velm/table/cellcomparison.h"
+#include "velm/table/cellvalues.h"
+#include "velm/table/columns.h"
+
+#include <QAbstractListModel>
+
+#include <algorithm>
+#include <optional>
+
+namespace velm {
+using namespace cellvalues;
+using cellcomparison::Kind;
+using textranks::Ranks;
+
+namespace {
+/// How a row without a value stands to the others.
+enum class Absent
+{
+    EqualToAll,
+    Last,
+};
+
+/// One value a row. `present` is empty when all have one.
+template <typename Value, Absent absent>
+class ValueKeys final : public SortKeys
+{
+public:
+    ValueKeys(std::vector<Value> values, std::vector<char> present)
+        : m_values(std::move(values)), m_present(std::move(present))
+    {}
+
+    bool lessThan(int leftRow, int rightRow) const override
+    {
+        const auto left = static_cast<std::size_t>(leftRow);
+        const auto right = static_cast<std::size_t>(rightRow);
+        if (m_present.empty())
+            return m_values[left] < m_values[right];
+        if constexpr (absent == Absent::Last)
+            return m_present[left] && (!m_present[right] || m_values[left] < m_values[right]);
+        else
+            return m_present[left] && m_present[right] && m_values[left] < m_values[right];
+    }
+
+private:
+    std::vector<Value> m_values;
+    std::vector<char> m_present;
+};
+
+/// One record a row, compared by a function.
+template <typename Record, typename Less>
+class RecordKeys final : public SortKeys
+{
+public:
+    RecordKeys(std::vector<Record> records, Less less) : m_records(std::move(records)), m_less(std::move(less)) {}
+
+    bool lessThan(int leftRow, int rightRow) const override
+    {
+        return m_less(m_records[static_cast<std::size_t>(leftRow)], m_records[static_cast<std::size_t>(rightRow)]);
+    }
+
+private:
+    std::vector<Record> m_records;
+    Less m_less;
+};
+
+/// Values read once, for comparisons that take indexes.
+class ReadValues final : public QAbstractListModel
+{
+public:
+    explicit ReadValues(std::vector<QVariant> values) : m_values(std::move(values)) {}
+
+    QModelIndex at(int row) const { return createIndex(row, 0); }
+    int rowCount(const QModelIndex& /*parent*/ = {}) const override { return static_cast<int>(m_values.size()); }
+    QVariant data(const QModelIndex& index, int /*role*/) const override
+    {
+        return m_values[static_cast<std::size_t>(index.row())];
+    }
+
+private:
+    std::vector<QVariant> m_values;
+};
+
+class BaseKeys final : public SortKeys
+{
+public:
+    BaseKeys(std::vector<QVariant> values, std::function<bool(const QModelIndex&, const QModelIndex&)> lessThan)
+        : m_values(std::move(values)), m_lessThan(std::move(lessThan))
+    {}
+
+    bool lessThan(int leftRow, int rightRow) const override
+    {
+        return m_lessThan(m_values.at(leftRow), m_values.at(rightRow));
+    }
+
+private:
+    ReadValues m_values;
+    std::function<bool(const QModelIndex&, const QModelIndex&)> m_lessThan;
+};
+
+/// Reads cells and puts what is computed of them where their rows are.
+class Maker
+{
+public:
+    explicit Maker(const SortedCells& cells)
+        : m_cells(cells), m_size(cells.rows.empty() ? 0 : static_cast<std::size_t>(cells.rows.back()) + 1)
+    {}
+
+    std::vector<QVariant> values() const
+    {
+        std::vector<QVariant> result;
+        result.reserve(m_cells.rows.size());
+        for (const int row : m_cells.rows)
+            result.push_back(m_cells.source->data(index(row), m_cells.role));
+        return result;
+    }
+
+    std::vector<QString> texts(int role) const
+    {
+        std::vector<QString> result;
+        result.reserve(m_cells.rows.size());
+        for (const int row : m_cells.rows)
+            result.push_back(m_cells.source->data(index(row), role).toString());
+        return result;
+    }
+    std::vector<QString> texts() const { return texts(m_cells.role); }
+
+    template <typename Value>
+    std::vector<Value> byRow(std::vector<Value> values) const
+    {
+        if (values.empty() || values.size() == m_size)
+            return values;
+        std::vector<Value> result(m_size);
+        for (std::size_t i = 0; i < values.size(); ++i)
+            result[static_cast<std::size_t>(m_cells.rows[i])] = std::move(values[i]);
+        return result;
+    }
+
+    template <Absent absent = Absent::EqualToAll, typename Value>
+    std::unique_ptr<SortKeys> keys(std::vector<Value> values, std::vector<char> present = {}) const
+    {
+        if (std::find(present.begin(), present.end(), char(false)) == present.end())
+            present.clear();
+        return std::make_unique<ValueKeys<Value, absent>>(byRow(std::move(values)), byRow(std::move(present)));
+    }
+
+    template <typename Record, typename Less>
+    std::unique_ptr<SortKeys> recordKeys(std::vector<Record> records, Less less) const
+    {
+        return std::make_unique<RecordKeys<Record, Less>>(byRow(std::move(records)), std::move(less));
+    }
+
+    std::unique_ptr<SortKeys> base(std::function<bool(const QModelIndex&, const QModelIndex&)> lessThan) const
+    {
+        return std::make_unique<BaseKeys>(byRow(values()), std::move(lessThan));
+    }
+
+private:
+    QModelIndex index(int row) const { return m_cells.source->index(row, m_cells.column, m_cells.parent); }
+
+    const SortedCells& m_cells;
+    std::size_t m_size;
+};
+
+std::vector<char> notEmpty(const std::vector<QString>& texts)
+{
+    std::vector<char> result(texts.size());
+    std::transform(texts.begin(), texts.end(), result.begin(), [](const QString& text) { return !text.isEmpty(); });
+    return result;
+}
+
+std::unique_ptr<SortKeys> integerKeys(const Maker& maker)
+{
+    const std::vector<QVariant> values = maker.values();
+    std::vector<int> numbers;
+    std::vector<char> present;
+    numbers.reserve(values.size());
+    present.reserve(values.size());
+    for (const QVariant& value : values) {
+        if (value.metaType().id() == QMetaType::Int) { // as its text would give
+            numbers.push_back(value.toInt());
+            present.push_back(true);
+        } else {
+            const wxString text = wxFromQt(value.toString());
+            numbers.push_back(leadingInteger(text));
+            present.push_back(!text.empty());
+        }
+    }
+    return maker.keys(std::move(numbers), std::move(present));
+}
+
+std::unique_ptr<SortKeys> doubleKeys(const Maker& maker)
+{
+    struct Cell
+    {
+        double value = 0.0;
+        bool isEmpty = true;
+        bool isNumber = false;
+        std::uint32_t rank = 0; // among the texts
+    };
+    const std::vector<QVariant> values = maker.values();
+    // The C locale may have another decimal point; numbers are then no numbers as texts.
+    const bool textsHavePoints = number(L"0.5").has_value();
+    std::vector<Cell> cells;
+    cells.reserve(values.size());
+    for (const QVariant& value : values) {
+        const int type = value.metaType().id();
+        if ((type == QMetaType::Double && textsHavePoints) || type == QMetaType::Int) {
+            cells.push_back({value.toDouble(), false, true, 0});
+        } else {
+            const wxString text = wxFromQt(value.toString());
+            const std::optional<double> found = number(text);
+            cells.push_back({found.value_or(0.0), text.empty(), found.has_value(), 0});
+        }
+    }
+    if (std::all_of(cells.begin(), cells.end(), [](const Cell& cell) { return cell.isEmpty || cell.isNumber; })) {
+        std::vector<double> numbers(cells.size());
+        std::vector<char> present(cells.size());
+        for (std::size_t i = 0; i < cells.size(); ++i) {
+            numbers[i] = cells[i].value;
+            present[i] = !cells[i].isEmpty;
+        }
+        return maker.keys(std::move(numbers), std::move(present));
+    }
+    const Ranks ranks = textranks::natural(maker.texts());
+    for (std::size_t i = 0; i < cells.size(); ++i)
+        cells[i].rank = ranks[i];
+    return maker.recordKeys(std::move(cells), [](const Cell& left, const Cell& right) {
+        if (left.isEmpty || right.isEmpty)
+            return false;
+        return left.isNumber && right.isNumber ? left.value < right.value : left.rank < right.rank;
+    });
+}
+
+std::unique_ptr<SortKeys> fileSizeKeys(const Maker& maker)
+{
+    struct Cell
+    {
+        double size = 0.0;
+        bool isEmpty = true;
+        std::uint32_t rank = 0;    // among the texts
+        std::uint32_t cutRank = 0; // among the texts without their units
+    };
+    std::vector<QString> texts = maker.texts();
+    const Ranks ranks = textranks::natural(texts);
+    std::vector<Cell> cells(texts.size());
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        wxString text = wxFromQt(texts[i]);
+        cells[i].isEmpty = text.empty();
+        cells[i].rank = ranks[i];
+        cells[i].size = takeFileSize(text);
+        texts[i] = toQt(text);
+    }
+    const Ranks cutRanks = textranks::natural(texts);
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        cells[i].cutRank = cutRanks[i];
+    return maker.recordKeys(std::move(cells), [](const Cell& left, const Cell& right) {
+        if (left.isEmpty || right.isEmpty)
+            return left.rank < right.rank;
+        return left.size == 0.0 || right.size == 0.0 ? left.cutRank < right.cutRank : left.size < right.size;
+    });
+}
+
+std::unique_ptr<SortKeys> pixelSizeKeys(const Maker& maker)
+{
+    struct Cell
+    {
+        double area = 0.0;
+        bool isEmpty = true;
+        bool hasArea = false;
+        std::uint32_t rank = 0;
+    };
+    const std::vector<QString> texts = maker.texts();
+    const Ranks ranks = textranks::natural(texts);
+    std::vector<Cell> cells(texts.size());
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        const wxString text = wxFromQt(texts[i]);
+        const PixelSize size = pixelSize(text);
+        cells[i] = {size.area, text.empty(), size.hasComma && size.area >= 0.0, ranks[i]};
+    }
+    return maker.recordKeys(std::move(cells), [](const Cell& left, const Cell& right) {
+        if (left.isEmpty || right.isEmpty)
+            return false;
+        return left.hasArea && right.hasArea ? left.area < right.area : left.rank < right.rank;
+    });
+}
+
+std::unique_ptr<SortKeys> toggleDisabledKeys(const Maker& maker)
+{
+    const std::vector<QString> texts = maker.texts();
+    std::vector<wxString> enabled(texts.size());
+    std::vector<char> disabled(texts.size());
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        enabled[i] = wxFromQt(texts[i]);
+        disabled[i] = isDisabled(enabled[i]);
+        if (disabled[i])
+            enabled[i].clear(); // all of them are equal
+    }
+    return maker.keys(textranks::by(texts.size(),
+                                    [&](std::uint32_t left, std::uint32_t right) {
+                                        if (disabled[left] || disabled[right])
+                                            return disabled[left] && !disabled[right];
+                                        return enabled[left].CmpNoCase(enabled[right]) < 0;
+                                    }),
+                      notEmpty(texts));
+}
+
+std::unique_ptr<SortKeys> plotStyleKeys(const Maker& maker)
+{
+    const std::vector<QString> texts = maker.texts();
+    if (!plotStyleColorDependent())
+        return maker.keys(textranks::natural(texts), notEmpty(texts));
+    std::vector<int> numbers(texts.size());
+    std::transform(texts.begin(), texts.end(), numbers.begin(),
+                   [](const QString& text) { return plotStyleNumber(wxFromQt(text)); });
+    return maker.keys(std::move(numbers), notEmpty(texts));
+}
+
+std::unique_ptr<SortKeys> dimStyleKeys(const Maker& maker)
+{
+    const std::vector<QString> texts = maker.texts();
+    std::vector<OdString> names(texts.size());
+    std::transform(texts.begin(), texts.end(), names.begin(), [](const QString& text) { return odFromQt(text); });
+    const DimstyleSorter sorter(currentDatabase());
+    return maker.keys(
+        textranks::by(names.size(),
+                      [&](std::uint32_t left, std::uint32_t right) { return sorter(names[left], names[right]); }),
+        notEmpty(texts));
+}
+
+template <typename Get>
+std::unique_ptr<SortKeys> typedKeys(const Maker& maker, const std::vector<QVariant>& values, Get get)
+{
+    std::vector<std::invoke_result_t<Get, const QVariant&>> keys;
+    std::vector<char> present;
+    keys.reserve(values.size());
+    present.reserve(values.size());
+    for (const QVariant& value : values) {
+        keys.push_back(get(value));
+        present.push_back(value.isValid());
+    }
+    return maker.keys<Absent::Last>(std::move(keys), std::move(present));
+}
+
+/// The one kind of all values that have one; nothing when they differ.
+std::optional<Kind> commonKind(const std::vector<QVariant>& values)
+{
+    Kind common = Kind::None;
+    for (const QVariant& value : values) {
+        const Kind kind = cellcomparison::kindOf(value);
+        if (kind == Kind::None || kind == common)
+            continue;
+        if (common != Kind::None)
+            return std::nullopt;
+        common = kind;
+    }
+    return common;
+}
+
+Ranks ranksOfTexts(const std::vector<QVariant>& values)
+{
+    std::vector<QString> texts(values.size());
+    std::transform(values.begin(), values.end(), texts.begin(), [](const QVariant& value) { return value.toString(); });
+    return textranks::natural(texts);
+}
+
+std::unique_ptr<SortKeys> mixedKeys(const Maker& maker, std::vector<QVariant> values)
+{
+    struct Cell
+    {
+        QVariant value;
+        std::uint32_t rank = 0; // among the texts
+    };
+    const Ranks ranks = ranksOfTexts(values);
+    std::vector<Cell> cells(values.size());
+    for (std::size_t i = 0; i < values.size(); ++i)
+        cells[i] = {std::move(values[i]), ranks[i]};
+    return maker.recordKeys(std::move(cells), [](const Cell& left, const Cell& right) {
+        return cellcomparison::valuesLessThan(left.value, right.value, [&] { return left.rank < right.rank; });
+    });
+}
+
+std::unique_ptr<SortKeys> valueKeys(const Maker& maker)
+{
+    std::vector<QVariant> values = maker.values();
+    const std::optional<Kind> kind = commonKind(values);
+    if (!kind)
+        return mixedKeys(maker, std::move(values));
+    switch (*kind) {
+    case Kind::None:
+    case Kind::Int:
+        return typedKeys(maker, values, [](const QVariant& value) { return value.toInt(); });
+    case Kind::UInt:
+        return typedKeys(maker, values, [](const QVariant& value) { return value.toUInt(); });
+    case Kind::LongLong:
+        return typedKeys(maker, values, [](const QVariant& value) { return value.toLongLong(); });
+    case Kind::ULongLong:
+        return typedKeys(maker, values, [](const QVariant& value) { return value.toULongLong(); });
+    case Kind::Double:
+        return typedKeys(maker, values, [](const QVariant& value) { return value.toDouble(); });
+    case Kind::Float:
+        return typedKeys(maker, values, [](const QVariant& value) { return value.toFloat(); });
+    case Kind::Char:
+        return typedKeys(maker, values, [](const QVariant& value) { return value.toChar(); });
+    case Kind::Date:
+        return typedKeys(maker, values, [](const QVariant& value) { return value.toDate(); });
+    case Kind::Time:
+        return typedKeys(maker, values, [](const QVariant& value) { return value.toTime(); });
+    case Kind::DateTime:
+        return typedKeys(maker, values, [](const QVariant& value) { return value.toDateTime(); });
+    case Kind::Text:
+        break;
+    }
+    std::vector<char> present(values.size());
+    std::transform(values.begin(), values.end(), present.begin(),
+                   [](const QVariant& value) { return value.isValid(); });
+    return maker.keys<Absent::Last>(ranksOfTexts(values), std::move(present));
+}
+} // namespace
+
+SortKeys::~SortKeys() = default;
+
+std::unique_ptr<SortKeys> makeSortKeys(const SortedCells& cells, int sortType,
+                                       const std::function<bool(const QModelIndex&, const QModelIndex&)>& baseLessThan)
+{
+    const Maker maker(cells);
+    switch (sortType) {
+    case SortAlphanumeric:
+    case SortAlphanumericAlt:
+        return maker.keys(textranks::natural(maker.texts()));
+    case SortDecoration:
+        return maker.keys(textranks::natural(maker.texts(Qt::DecorationRole)));
+    case SortCaseInsensitive:
+        return maker.keys(textranks::caseInsensitive(maker.texts()));
+    case SortProxyDefault:
+    case SortProxyDefaultAlt:
+        return maker.base(baseLessThan);
+    case SortInteger:
+        return integerKeys(maker);
+    case SortDouble:
+        return doubleKeys(maker);
+    case SortFileSize:
+        return fileSizeKeys(maker);
+    case SortToggleDisabled:
+        return toggleDisabledKeys(maker);
+    case SortPlotStyle:
+        return plotStyleKeys(maker);
+    case SortPixelSize:
+        return pixelSizeKeys(maker);
+    case SortDimStyle:
+        return dimStyleKeys(maker);
+    default:
+        return valueKeys(maker);
+    }
+}
+
+std::unique_ptr<SortKeys> makeSortKeys(Ranks ranks)
+{
+    return std::make_unique<ValueKeys<std::uint32_t, Absent::Last>>(std::move(ranks), std::vector<char>());
+}
+} // namespace velm
