@@ -51,7 +51,7 @@ void placeSash(wxSplitterWindow& splitter, int size)
 } // namespace
 
 MainFrame::MainFrame(VelmSession& session, HostServices& services, PageGroup& pages)
-    : wxFrame(nullptr, wxID_ANY, "velm workbench", wxDefaultPosition, wxSize(1160, 820)), m_session(session),
+    : wxFrame(nullptr, wxID_ANY, "velm workbench", wxDefaultPosition, wxSize(1200, 820)), m_session(session),
       m_services(services), m_pages(pages), m_documents(services.documents(), services.dialogs(), pages),
       m_selection(services.documents()), m_layers(services.documents(), services.dialogs()),
       m_dimStyles(services.documents(), services.dialogs()), m_drawingInfo(services.documents()),
@@ -130,10 +130,10 @@ void MainFrame::build()
     m_lowerPanels = new wxNotebook(m_panelSplitter, wxID_ANY);
     addPanel(m_lowerPanels, "Workbench/PropertiesPanel.qml", &properties(), _("Properties"));
     addPanel(m_lowerPanels, "Workbench/DrawingPanel.qml", &m_drawingInfo, _("Drawing"));
-    addPanel(m_lowerPanels, "Workbench/DimStylesPanel.qml", &m_dimStyles, _("Dimension Styles"));
 
     m_tablePanels = new wxNotebook(m_tableSplitter, wxID_ANY);
     addPanel(m_tablePanels, "Workbench/EntitiesPanel.qml", &entities(), _("Entities"));
+    addPanel(m_tablePanels, "Workbench/DimStylesPanel.qml", &m_dimStyles, _("Dimension Styles"));
     addPanel(m_tablePanels, "Workbench/PartsPanel.qml", &m_parts, _("Million rows"));
 
     m_lowerSplitter->SetMinimumPaneSize(FromDIP(90));

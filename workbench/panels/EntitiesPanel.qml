@@ -52,18 +52,26 @@ PanelPage {
                 anchors.fill: parent
                 visible: page.controller.hasDrawing
                 model: page.controller.table
+                activeFocusOnTab: true
+                // By the kinds of cells: 2 is a colour.
                 delegates: ({
-                        "2": colorCell
+                        2: color
                     })
                 onCellActivated: page.controller.zoomToSelection()
             }
             PlaceholderMessage {
                 anchors.centerIn: parent
                 width: Math.min(parent.width, implicitWidth)
-                visible: !page.controller.hasDrawing
-                mark: "folder"
-                text: qsTr("Open a drawing to see its entities.")
+                visible: !page.controller.hasDrawing || table.view.rows === 0
+                mark: page.controller.hasDrawing ? "search" : "folder"
+                text: !page.controller.hasDrawing ? qsTr("Open a drawing to see its entities.") : page.controller.searchText !== "" ? qsTr("No entity has this text.") : qsTr("The drawing is empty.")
             }
         }
+    }
+
+    Component {
+        id: color
+
+        ColorCell {}
     }
 }

@@ -64,14 +64,19 @@ PanelPage {
 
                 objectName: "parts"
                 anchors.fill: parent
+                activeFocusOnTab: true
                 model: page.controller.table
+                // By the kinds of cells: 1 is a check.
+                delegates: ({
+                        1: check
+                    })
             }
             PlaceholderMessage {
                 anchors.centerIn: parent
                 width: Math.min(parent.width, implicitWidth)
-                visible: page.controller.progress === 0
-                mark: "info"
-                text: qsTr("Fill makes a million rows to sort, search and scroll.")
+                visible: table.view.rows === 0 && !page.controller.filling
+                mark: page.controller.progress > 0 ? "search" : "info"
+                text: page.controller.progress > 0 ? qsTr("No part's name contains this text.") : qsTr("Fill makes a million rows to sort, search and scroll.")
             }
         }
         RowLayout {
@@ -88,5 +93,11 @@ PanelPage {
                 color: Colors.textSecondary
             }
         }
+    }
+
+    Component {
+        id: check
+
+        ModelTableCheck {}
     }
 }

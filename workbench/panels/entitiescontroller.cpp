@@ -16,6 +16,7 @@ EntitiesController::EntitiesController(OdApDocManager& documents, Selection& sel
     m_table.setFilter(&m_filter);
     m_table.setSourceModel(&m_entities);
     connect(&m_table, &velm::SortFilterSelectModel::selectionChanged, this, &EntitiesController::tellSelection);
+    connect(m_table.selectionModel(), &QItemSelectionModel::currentChanged, this, &EntitiesController::tellCurrent);
     connect(&m_table, &velm::SortFilterSelectModel::selectionModeChanged, this, [this] {
         // Cells, rows and columns that are selected mean something else in another mode.
         keepSelection([this] { m_table.clearSelection(); });
@@ -62,7 +63,12 @@ void EntitiesController::keepSelection(Change change)
 
 void EntitiesController::refresh()
 {
-    keepSelection([this] { m_entities.refresh(); });
+    keepSelection([this] {
+        m_entities.refresh();
+        // The table doesn't ask again for rows that changed.
+        if (!m_filter.text().isEmpty())
+            Q_EMIT m_filter.invalidate();
+    });
     Q_EMIT statusChanged();
 }
 
@@ -89,6 +95,11 @@ void EntitiesController::zoomToSelection()
     velm::processCommand(L"ZOOM SELECTION");
 }
 
+OdDbObjectId EntitiesController::currentInTable() const
+{
+    return m_entities.entity(m_table.mapProxyRowToSource(m_table.selectionModel()->currentIndex().row()));
+}
+
 std::vector<OdDbObjectId> EntitiesController::selectedInTable() const
 {
     std::vector<OdDbObjectId> entities;
@@ -107,9 +118,18 @@ void EntitiesController::tellSelection()
     if (m_isFollowing || selectsColumns())
         return;
     const QScopedValueRollback following(m_isFollowing, true);
-    const int current = m_table.selectionModel()->currentIndex().row();
-    m_selection.set(selectedInTable(), m_entities.entity(m_table.mapProxyRowToSource(current)));
+    m_selection.set(selectedInTable(), currentInTable());
     Q_EMIT statusChanged();
+}
+
+void EntitiesController::tellCurrent()
+{
+    const OdDbObjectId current = currentInTable();
+    // A click makes its cell the current one after it has selected.
+    if (m_isFollowing || selectsColumns() || std::ranges::count(m_selection.entities(), current) == 0)
+        return;
+    const QScopedValueRollback following(m_isFollowing, true);
+    m_selection.set(m_selection.entities(), current);
 }
 
 void EntitiesController::followSelection()

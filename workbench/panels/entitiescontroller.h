@@ -54,6 +54,8 @@ private:
     template <typename Change>
     void keepSelection(Change change);
     void tellSelection();
+    void tellCurrent();
+    OdDbObjectId currentInTable() const;
     /// Those of the table's selection, by rising id.
     std::vector<OdDbObjectId> selectedInTable() const;
     void followSelection();

@@ -12,42 +12,27 @@
 
 namespace workbench {
 namespace {
-constexpr Qt::Alignment left = Qt::AlignLeft | Qt::AlignVCenter;
-constexpr Qt::Alignment right = Qt::AlignRight | Qt::AlignVCenter;
-
-velm::ColumnBuilder column(int property, CellKind kind, const QString& name, const char* id, velm::SortType sortType,
-                           int width)
-{
-    velm::ColumnBuilder result(property, static_cast<int>(kind), name, QString::fromLatin1(id));
-    result.sortType(sortType).initialWidth(width).textAlignment(kind == CellKind::Number ? right : left);
-    return result;
-}
-
 velm::Columns makeColumns()
 {
     using M = EntityTableModel;
-    const auto text = [](int property, const QString& name, const char* id, int width) {
-        return column(property, CellKind::Text, name, id, velm::SortAlphanumeric, width);
-    };
-    const auto number = [](int property, const QString& name, const char* id, velm::SortType sortType) {
-        return column(property, CellKind::Number, name, id, sortType, 80);
-    };
     // A comparison as texts takes an empty cell for equal to every other; by the values' types it comes last.
     const velm::SortType mayBeEmpty = velm::SortByValueType;
     velm::Columns result;
     result.columns = {
-        column(M::NumberColumn, CellKind::Number, M::tr("No."), "number", velm::SortInteger, 60),
-        text(M::KindColumn, M::tr("Type"), "type", 100),
-        text(M::LayerColumn, M::tr("Layer"), "layer", 100),
-        column(M::ColorColumn, CellKind::Color, M::tr("Colour"), "color", velm::SortAlphanumeric, 100),
-        text(M::LinetypeColumn, M::tr("Linetype"), "linetype", 90),
-        column(M::LineWeightColumn, CellKind::Number, M::tr("Lineweight"), "lineweight", velm::SortInteger, 80),
-        number(M::LengthColumn, M::tr("Length"), "length", mayBeEmpty),
-        number(M::RadiusColumn, M::tr("Radius"), "radius", mayBeEmpty),
-        number(M::AreaColumn, M::tr("Area"), "area", mayBeEmpty),
-        number(M::StartXColumn, M::tr("Start X"), "startx", velm::SortDouble),
-        number(M::StartYColumn, M::tr("Start Y"), "starty", velm::SortDouble),
-        text(M::TextColumn, M::tr("Text"), "text", 160),
+        tableColumn(M::NumberColumn, CellKind::Number, M::tr("No."), "number", 50).sortType(velm::SortInteger),
+        tableColumn(M::KindColumn, CellKind::Text, M::tr("Type"), "type", 85).sortType(velm::SortAlphanumeric),
+        tableColumn(M::LayerColumn, CellKind::Text, M::tr("Layer"), "layer", 90).sortType(velm::SortAlphanumeric),
+        tableColumn(M::ColorColumn, CellKind::Color, M::tr("Colour"), "color", 90).sortType(velm::SortAlphanumeric),
+        tableColumn(M::LinetypeColumn, CellKind::Text, M::tr("Linetype"), "linetype", 80)
+            .sortType(velm::SortAlphanumeric),
+        tableColumn(M::LineWeightColumn, CellKind::Number, M::tr("Lineweight"), "lineweight", 78)
+            .sortType(velm::SortInteger),
+        tableColumn(M::LengthColumn, CellKind::Number, M::tr("Length"), "length", 68).sortType(mayBeEmpty),
+        tableColumn(M::RadiusColumn, CellKind::Number, M::tr("Radius"), "radius", 64).sortType(mayBeEmpty),
+        tableColumn(M::AreaColumn, CellKind::Number, M::tr("Area"), "area", 68).sortType(mayBeEmpty),
+        tableColumn(M::StartXColumn, CellKind::Number, M::tr("Start X"), "startx", 64).sortType(velm::SortDouble),
+        tableColumn(M::StartYColumn, CellKind::Number, M::tr("Start Y"), "starty", 64).sortType(velm::SortDouble),
+        tableColumn(M::TextColumn, CellKind::Text, M::tr("Text"), "text", 100).sortType(velm::SortAlphanumeric),
     };
     return result;
 }

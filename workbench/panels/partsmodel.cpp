@@ -7,26 +7,17 @@
 
 namespace workbench {
 namespace {
-velm::ColumnBuilder column(CellKind kind, const QString& name, const char* id, velm::SortType sortType, int width)
-{
-    velm::ColumnBuilder result(-1, static_cast<int>(kind), name, QString::fromLatin1(id));
-    result.sortType(sortType).initialWidth(width);
-    if (kind != CellKind::Check)
-        result.textAlignment((kind == CellKind::Number ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
-    return result;
-}
-
 velm::Columns makeColumns()
 {
     using M = PartsModel;
     velm::Columns result;
     result.columns = {
-        column(CellKind::Number, M::tr("No."), "number", velm::SortInteger, 80),
-        column(CellKind::Text, M::tr("Name"), "name", velm::SortAlphanumeric, 180),
-        column(CellKind::Number, M::tr("Value"), "value", velm::SortDouble, 110),
-        column(CellKind::Number, M::tr("File size"), "size", velm::SortFileSize, 110),
-        column(CellKind::Text, M::tr("Date"), "date", velm::SortByValueType, 120),
-        column(CellKind::Check, M::tr("Checked"), "checked", velm::SortByValueType, 80),
+        tableColumn(M::NumberColumn, CellKind::Number, M::tr("No."), "number", 80).sortType(velm::SortInteger),
+        tableColumn(M::NameColumn, CellKind::Text, M::tr("Name"), "name", 180).sortType(velm::SortAlphanumeric),
+        tableColumn(M::ValueColumn, CellKind::Number, M::tr("Value"), "value", 110).sortType(velm::SortDouble),
+        tableColumn(M::SizeColumn, CellKind::Number, M::tr("File size"), "size", 110).sortType(velm::SortFileSize),
+        tableColumn(M::DateColumn, CellKind::Text, M::tr("Date"), "date", 120).sortType(velm::SortByValueType),
+        tableColumn(M::CheckedColumn, CellKind::Check, M::tr("Checked"), "checked", 80).sortType(velm::SortByValueType),
     };
     return result;
 }

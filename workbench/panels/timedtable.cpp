@@ -3,12 +3,13 @@
 #include <QElapsedTimer>
 
 namespace workbench {
-void TimedTable::sort(int column, Qt::SortOrder order)
+bool TimedTable::doSort(int proxyColumn, bool isAscending, bool force)
 {
     QElapsedTimer timer;
     timer.start();
-    SortFilterSelectModel::sort(column, order);
-    if (column >= 0)
+    const bool done = SortFilterSelectModel::doSort(proxyColumn, isAscending, force);
+    if (done)
         Q_EMIT sorted(timer.elapsed());
+    return done;
 }
 } // namespace workbench

@@ -25,6 +25,7 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
+#include <cmath>
 #include <exception>
 
 namespace workbench {
@@ -60,6 +61,13 @@ QQuickItem* findCell(QQuickItem* item, const QAbstractItemModel& model, const QS
     return nullptr;
 }
 
+/// Whether two colours look the same.
+bool isClose(QRgb left, QRgb right)
+{
+    constexpr int most = 24;
+    return std::abs(qRed(left) - qRed(right)) < most && std::abs(qGreen(left) - qGreen(right)) < most &&
+           std::abs(qBlue(left) - qBlue(right)) < most;
+}
 void collectTexts(const wxWindow& window, QString& texts)
 {
     for (const wxWindow* child : window.GetChildren()) {
@@ -340,6 +348,16 @@ bool Driver::savePicture(const QString& file)
     const wxRect frame = ask([&] { return m_app.frame() ? m_app.frame()->GetScreenRect() : wxRect(); });
     const QRect part = QRect(frame.x, frame.y, frame.width, frame.height).intersected(last.rect());
     return (part.isEmpty() ? last : last.copy(part)).save(file);
+}
+
+int Driver::countPixels(wxWindow& window, QRgb colour)
+{
+    const QImage part = picture().copy(rectOf(window)).convertToFormat(QImage::Format_RGB32);
+    int count = 0;
+    for (int y = 0; y < part.height(); ++y)
+        for (int x = 0; x < part.width(); ++x)
+            count += isClose(part.pixel(x, y), colour) ? 1 : 0;
+    return count;
 }
 
 void Driver::xdotool(const QStringList& arguments)

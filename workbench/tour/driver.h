@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QRect>
 #include <QRegion>
+#include <QRgb>
 #include <QString>
 #include <QStringList>
 
@@ -101,6 +102,8 @@ public:
     /// A picture of the whole screen, once the program has drawn what was asked of it.
     bool savePicture(const QString& file);
     QImage picture();
+    /// How many pixels of the window have about this colour.
+    int countPixels(wxWindow& window, QRgb colour);
 
 private:
     void invoke(const std::function<void()>& function);
