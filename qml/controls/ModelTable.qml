@@ -223,8 +223,8 @@ FocusScope {
             enter(true);
         else if (event.key === Qt.Key_Escape && model.hasPreFocus())
             endPreFocus();
-        else if (event.key === Qt.Key_Space && cursor.preFocus().valid)
-            toggle(cursor.preFocus().row, cursor.preFocus().column);
+        else if (event.key === Qt.Key_Space && marks.preFocus().valid)
+            toggle(marks.preFocus().row, marks.preFocus().column);
         else if (event.key === Qt.Key_Menu && current.y >= 0)
             askForMenu(current);
         else
@@ -253,8 +253,8 @@ FocusScope {
 
         onWanted: letters => control.find(letters)
     }
-    TableCursor {
-        id: cursor
+    CellMarks {
+        id: marks
 
         model: control.model
         onMarked: (role, row, column) => {

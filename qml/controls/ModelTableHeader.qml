@@ -5,7 +5,7 @@ import Tandolin.API.Core.Themes
 // The header of a ModelTable. A click sorts, a drag moves the column, a drag of a border resizes, a double click on it fits
 // the column to what is seen of it, the right button opens the menu of the columns.
 Item {
-    id: header
+    id: control
 
     required property var table
     required property var columns
@@ -60,15 +60,15 @@ Item {
 
     function openMenu(column: int, x: real, y: real) {
         menu.column = column;
-        menu.popup(header, x, y);
+        menu.popup(control, x, y);
     }
 
     ModelTableMenu {
         id: menu
 
         objectName: "columnMenu"
-        model: header.columns.model?.columnModel ?? null
-        onTriggered: header.columns.save()
+        model: control.columns.model?.columnModel ?? null
+        onTriggered: control.columns.save()
     }
     Rectangle {
         anchors.fill: parent
@@ -76,24 +76,24 @@ Item {
 
         TapHandler {
             acceptedButtons: Qt.RightButton
-            onTapped: header.openMenu(-1, point.position.x, point.position.y)
+            onTapped: control.openMenu(-1, point.position.x, point.position.y)
         }
     }
     Item {
         id: strip
 
-        x: header.origin
+        x: control.origin
         height: parent.height
 
         Repeater {
             id: titles
 
-            model: header.columns.list
+            model: control.columns.list
             // qmllint disable unqualified
             delegate: ModelTableHeaderCell {
-                header: header
-                x: header.columns.edges[index] ?? 0
-                width: header.columns.widths[index] ?? 0
+                header: control
+                x: control.columns.edges[index] ?? 0
+                width: control.columns.widths[index] ?? 0
                 height: strip.height
             }
             // qmllint enable unqualified
@@ -107,9 +107,9 @@ Item {
     }
     // What is moved goes with the pointer.
     Rectangle {
-        visible: header.dragged >= 0
-        x: header.dragX - width / 2
-        width: header.columns.widths[header.dragged] ?? 0
+        visible: control.dragged >= 0
+        x: control.dragX - width / 2
+        width: control.columns.widths[control.dragged] ?? 0
         height: parent.height
         radius: Metrics.radius
         opacity: 0.75
@@ -122,7 +122,7 @@ Item {
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter
             elide: Text.ElideRight
-            text: header.columns.list[header.dragged]?.title ?? ""
+            text: control.columns.list[control.dragged]?.title ?? ""
         }
     }
 }

@@ -81,6 +81,18 @@ private:
     QHash<std::pair<int, int>, QVariant> m_written;
 };
 
+/// What a repeater makes is no child of the page but for the eye.
+QQuickItem* findItem(QQuickItem* from, const QString& name)
+{
+    if (from->objectName() == name)
+        return from;
+    for (QQuickItem* child : from->childItems()) {
+        if (QQuickItem* found = findItem(child, name))
+            return found;
+    }
+    return nullptr;
+}
+
 /// A window with a table, which has the keyboard.
 class ShownTable
 {
@@ -116,11 +128,14 @@ public:
         return found;
     }
     QPoint point(int row, int column) const { return centre(cell(row, column)); }
-    QQuickItem* title(const char* name) const { return shown->find((QByteArrayLiteral("header:") + name).constData()); }
+    QQuickItem* title(const QString& name) const
+    {
+        return findItem(qobject_cast<QQuickItem*>(table()), QStringLiteral("header:") + name);
+    }
     /// A point of a title, from its left edge, or from its right one when it is negative.
     QPoint titlePoint(const char* name, int x) const
     {
-        QQuickItem* item = title(name);
+        QQuickItem* item = title(QString::fromLatin1(name));
         return item->mapToScene(QPointF(x < 0 ? item->width() + x : x, item->height() / 2)).toPoint();
     }
     static QPoint centre(QQuickItem* item)
@@ -161,10 +176,10 @@ public:
     {
         std::map<double, QString> found;
         for (const ColumnData& column : rows.columns().columns) {
-            QQuickItem* item = title(column.name.toLatin1().constData());
+            QQuickItem* item = title(column.name);
             if (!item)
                 continue;
-            const bool isSorted = item->findChild<QQuickItem*>(QStringLiteral("sortMark"))->isVisible();
+            const bool isSorted = findItem(item, QStringLiteral("sortMark"))->isVisible();
             found[item->x()] = isSorted ? QLatin1Char('[') + column.name + QLatin1Char(']') : column.name;
         }
         QStringList result;
@@ -308,7 +323,7 @@ void TestControlsTable::theHeaderMovesAndResizes()
     QCOMPARE(t.model.columnWidth(0), 137);
     QCOMPARE(t.cell(0, 0)->width(), 137.0);
     QCOMPARE(t.cell(0, 3)->x(), right + 37);
-    QCOMPARE(t.title("Name")->x(), right + 37);
+    QCOMPARE(t.title(QStringLiteral("Name"))->x(), right + 37);
     t.drag(t.titlePoint("Note", 135), t.titlePoint("Note", -900));
     QVERIFY(t.model.columnWidth(0) > 10);
     // As wide as its texts.
@@ -339,12 +354,12 @@ void TestControlsTable::theMenuHidesColumns()
     choose(0);
     QTRY_COMPARE(t.titles(), QStringLiteral("Count Note"));
     choose(1);
-    QTRY_COMPARE(t.titles(), QStringLiteral("On Count Note"));
+    QTRY_COMPARE(t.titles(), QStringLiteral("Count On Note"));
     // Below the separator.
     choose(5);
-    QTRY_COMPARE(t.titles(), QStringLiteral("Name On Count Note"));
+    QTRY_COMPARE(t.titles(), QStringLiteral("Name Count On Note"));
     t.settle();
-    QCOMPARE(t.texts(4), QStringLiteral("Row 4||4|Note 4"));
+    QCOMPARE(t.texts(4), QStringLiteral("Row 4|4||Note 4"));
 }
 
 void TestControlsTable::columnsAreAsTheyWereLeft()
@@ -374,7 +389,7 @@ void TestControlsTable::sharesFillTheWidth()
     const double left = t.view()->width() - 60 - 100;
     QCOMPARE(t.cell(0, 0)->width(), std::round(2 * left / 3));
     QCOMPARE(t.cell(0, 0)->width() + t.cell(0, 3)->width(), left);
-    QCOMPARE(t.title("Note")->x() + t.title("Note")->width(), t.view()->width());
+    QCOMPARE(t.title(QStringLiteral("Note"))->x() + t.title(QStringLiteral("Note"))->width(), t.view()->width());
     t.shown->page()->setProperty("width", 600);
     t.settle();
     QCOMPARE(t.cell(0, 0)->width() + t.cell(0, 3)->width(), left + 120);
@@ -575,13 +590,13 @@ void TestControlsTable::theHeaderStaysAboveItsColumns()
         t.settle();
         const int left = t.view()->property("leftColumn").toInt();
         const QString name = t.model.headerData(left, Qt::Horizontal).toString();
-        QCOMPARE(t.title(name.toLatin1().constData())->mapToScene({}).x(), t.cell(0, left)->mapToScene({}).x());
+        QCOMPARE(t.title(name)->mapToScene({}).x(), t.cell(0, left)->mapToScene({}).x());
     };
     for (const double x : {37.0, 3000.0, 700.0, 4500.0, 100.0, 0.0}) {
         t.view()->setProperty("contentX", x);
         check();
     }
-    QCOMPARE(t.title("Name")->mapToScene({}).x(), t.view()->mapToScene({}).x());
+    QCOMPARE(t.title(QStringLiteral("Name"))->mapToScene({}).x(), t.view()->mapToScene({}).x());
     t.model.moveColumn(39, 1);
     check();
     t.view()->setProperty("contentX", 2000.0);

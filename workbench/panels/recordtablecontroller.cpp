@@ -65,9 +65,7 @@ void RecordTableController::selectSome()
 
 void RecordTableController::refresh()
 {
-    const int rows = m_model->rowCount();
-    m_model->refresh();
-    if (m_model->rowCount() > rows)
+    if (m_model->refresh())
         m_table.sort(m_table.sortColumn(), m_table.sortOrder());
     Q_EMIT currentRowChanged();
 }

@@ -22,10 +22,10 @@ void RecordTableModel::setDatabase(OdDbDatabase* database)
     }
 }
 
-void RecordTableModel::refresh()
+bool RecordTableModel::refresh()
 {
     if (!m_database)
-        return;
+        return false;
     for (int row = rowCount() - 1; row >= 0; --row)
         if (!record(row)) {
             beginRemoveRows({}, row, row);
@@ -35,19 +35,20 @@ void RecordTableModel::refresh()
     survey(*m_database);
     if (!m_records.empty())
         Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
-    insertMissing();
+    return insertMissing();
 }
 
-void RecordTableModel::insertMissing()
+bool RecordTableModel::insertMissing()
 {
     // New ones stand behind the others in the drawing, too.
     const std::vector<OdDbObjectId> present = records(*m_database);
     const auto first = present.begin() + static_cast<std::ptrdiff_t>(std::min(m_records.size(), present.size()));
     if (first == present.end())
-        return;
+        return false;
     beginInsertRows({}, rowCount(), static_cast<int>(present.size()) - 1);
     m_records.insert(m_records.end(), first, present.end());
     endInsertRows();
+    return true;
 }
 
 OdDbSymbolTableRecord* RecordTableModel::record(int row) const

@@ -21,8 +21,8 @@ public:
     /// Not owned; null for no rows.
     void setDatabase(OdDbDatabase* database);
     OdDbDatabase* database() const { return m_database; }
-    /// To call after a change of the drawing.
-    void refresh();
+    /// To call after a change of the drawing. True when rows were added.
+    bool refresh();
     /// Null for a row that isn't there, and for a record that is gone.
     OdDbSymbolTableRecord* record(int row) const;
     int rowOf(OdDbObjectId record) const;
@@ -60,7 +60,7 @@ protected:
 
 private:
     bool isCheck(int column) const;
-    void insertMissing();
+    bool insertMissing();
 
     const velm::Columns m_columns;
     OdDbDatabase* m_database = nullptr; // not owned

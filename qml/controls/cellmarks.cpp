@@ -1,7 +1,7 @@
-#include "tablecursor.h"
+#include "cellmarks.h"
 
 namespace velmqml {
-void TableCursor::setModel(QAbstractItemModel* model)
+void CellMarks::setModel(QAbstractItemModel* model)
 {
     if (model == m_model)
         return;
@@ -10,16 +10,16 @@ void TableCursor::setModel(QAbstractItemModel* model)
     m_model = model;
     m_preFocus = QModelIndex();
     if (m_model)
-        connect(m_model, &QAbstractItemModel::dataChanged, this, &TableCursor::onDataChanged);
+        connect(m_model, &QAbstractItemModel::dataChanged, this, &CellMarks::onDataChanged);
     Q_EMIT modelChanged();
 }
 
-QModelIndex TableCursor::preFocus() const
+QModelIndex CellMarks::preFocus() const
 {
     return m_preFocus.data(m_preFocusRole).toBool() ? QModelIndex(m_preFocus) : QModelIndex();
 }
 
-void TableCursor::onDataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight, const QList<int>& roles)
+void CellMarks::onDataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight, const QList<int>& roles)
 {
     if (roles.size() != 1 || !topLeft.isValid())
         return;

@@ -9,7 +9,7 @@ namespace velmqml {
 /// Tells a page of the single cells that a table proxy marks by its roles: "isPreFocusCell", "isFocusCell" and
 /// "beginedit". A delegate sees these roles too, but it may not be there yet, and it doesn't see a mark that is set
 /// once more.
-class TableCursor : public QObject
+class CellMarks : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
