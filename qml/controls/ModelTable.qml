@@ -32,6 +32,7 @@ FocusScope {
     readonly property alias columns: columns
     readonly property alias header: header
     readonly property alias view: view
+    readonly property alias pointer: pointer
     readonly property bool isPointed: pointer.hoveredCell.y >= 0
     readonly property alias isEditing: editor.isOpen
 
@@ -45,7 +46,7 @@ FocusScope {
 
     // The user chose a cell that isn't edited, by Enter or a double click.
     signal cellActivated(int row, int column)
-    // The right mouse button or the menu key; the point is one of this control. Row and column are -1 below the rows.
+    // The right mouse button or the menu key; the point is one of this control. Row and column are -1 beside the cells.
     signal contextMenuRequested(int row, int column, point position)
 
     implicitWidth: 4 * Metrics.fieldWidth
@@ -90,7 +91,9 @@ FocusScope {
         typed.stop();
         if (model.hasPreFocus())
             down ? model.increasePreFocusIndexRow() : model.decreasePreFocusIndexRow();
-        else if (view.rows > 0)
+        else if (currentCell().y < 0)
+            moveTo(0);
+        else
             down ? model.selectNextRow() : model.selectPreviousRow();
     }
 
@@ -102,6 +105,11 @@ FocusScope {
             model.increasePreFocusIndexColumn();
         else
             model.decreasePreFocusIndexColumn();
+    }
+
+    // Also from an editor, which keeps its own scope.
+    function takeFocus() {
+        keyboard.forceActiveFocus();
     }
 
     function stopTyping() {
@@ -181,7 +189,7 @@ FocusScope {
     }
 
     function askForMenu(cell: point) {
-        const y = body.y + (cell.y + 1) * Metrics.rowHeight - view.contentY;
+        const y = pointer.y + (cell.y + 1) * Metrics.rowHeight - view.contentY;
         contextMenuRequested(cell.y, cell.x, Qt.point(Metrics.rowHeight, y));
     }
 
@@ -231,6 +239,11 @@ FocusScope {
             event.accepted = typed.take(event);
     }
 
+    Item {
+        id: keyboard
+
+        focus: true
+    }
     ModelTableColumns {
         id: columns
 
@@ -296,8 +309,8 @@ FocusScope {
         columns: columns
         origin: control.columnOrigin - view.contentX
     }
-    Item {
-        id: body
+    ModelTablePointer {
+        id: pointer
 
         // Both bars show when either's room makes the other one needed.
         readonly property real room: control.height - 4 - header.height
@@ -305,20 +318,17 @@ FocusScope {
         readonly property bool isWide: columns.leastTotal > control.width - 4 - (wantedHeight > room ? down.width : 0)
         readonly property bool isHigh: wantedHeight > room - (isWide ? across.height : 0)
 
+        table: control
         x: 2
         y: 2 + header.height
         width: control.width - 4 - (isHigh ? down.width : 0)
         height: room - (isWide ? across.height : 0)
 
-        HoverHandler {
-            id: hover
-        }
         TableView {
             id: view
 
             anchors.fill: parent
             clip: true
-            focus: true
             keyNavigationEnabled: false
             pointerNavigationEnabled: false
             animate: false
@@ -327,7 +337,7 @@ FocusScope {
             pixelAligned: true
             model: control.model
             contentWidth: columns.total
-            contentHeight: body.wantedHeight
+            contentHeight: pointer.wantedHeight
             columnWidthProvider: column => columns.widths[column] ?? 100
             ScrollBar.vertical: down
             ScrollBar.horizontal: across
@@ -338,14 +348,8 @@ FocusScope {
             // qmllint enable unqualified
             onContentXChanged: control.noteOrigin()
             onLeftColumnChanged: control.noteOrigin()
-            onContentYChanged: pointer.hover()
+            onContentYChanged: pointer.noteHover()
 
-            ModelTablePointer {
-                id: pointer
-
-                table: control
-                hoverPoint: hover.hovered ? hover.point.position : null
-            }
             ModelTableEditor {
                 id: editor
 
@@ -361,18 +365,18 @@ FocusScope {
         id: down
 
         x: control.width - 2 - width
-        y: body.y
-        height: body.height
+        y: pointer.y
+        height: pointer.height
         orientation: Qt.Vertical
-        policy: body.isHigh ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
+        policy: pointer.isHigh ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
     }
     ScrollBar {
         id: across
 
         x: 2
         y: control.height - 2 - height
-        width: body.width
+        width: pointer.width
         orientation: Qt.Horizontal
-        policy: body.isWide ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
+        policy: pointer.isWide ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
     }
 }

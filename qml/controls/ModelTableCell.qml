@@ -67,6 +67,22 @@ Rectangle {
     onContentComponentChanged: makeContent()
     Component.onCompleted: makeContent()
 
+    MouseArea {
+        anchors.fill: parent
+        acceptedButtons: Qt.LeftButton | Qt.RightButton
+        // A drag selects and doesn't move the view.
+        preventStealing: true
+        onPressed: event => cell.table.pointer.press(cell.row, cell.column, event)
+        onDoubleClicked: event => {
+            if (event.button === Qt.LeftButton)
+                cell.table.pointer.doubleClick(cell.row, cell.column);
+        }
+        onReleased: event => {
+            const at = mapToItem(cell.table.pointer, event.x, event.y);
+            if (event.button === Qt.RightButton && containsMouse)
+                cell.table.pointer.askForMenu(cell.row, cell.column, at);
+        }
+    }
     Text {
         id: label
 

@@ -52,7 +52,7 @@ FocusScope {
         old.visible = false;
         old.destroy();
         if (hadFocus)
-            table.forceActiveFocus();
+            table.takeFocus();
     }
 
     Connections {

@@ -93,7 +93,7 @@ Item {
         onPressed: event => {
             pressX = event.x;
             moved = false;
-            cell.header.table.forceActiveFocus();
+            cell.header.table.takeFocus();
         }
         onPositionChanged: event => {
             if (!(pressedButtons & Qt.LeftButton))

@@ -1,25 +1,23 @@
 import QtQuick
 import Tandolin.API.Core.Themes
 
-// The mouse over the cells of a ModelTable, below what the cells take for themselves: clicks select, a drag extends the
-// selection.
-MouseArea {
+// The mouse over the view of a ModelTable: clicks select, a drag extends the selection. Cells tell of what isn't taken by
+// their content.
+Item {
     id: pointer
 
     required property var table
-    // Where the pointer is in the view; null: not over it.
-    property var hoverPoint: null
-
     property point hoveredCell: Qt.point(-1, -1)
-    property int lastRow: -1
+    // Where a drag has come to; -1: there is none.
+    property int dragRow: -1
 
-    // Of a point of the view.
-    function cellAt(x: real, y: real): point {
-        return table.view.cellAtPosition(Qt.point(x + table.view.contentX, y + table.view.contentY));
+    function cellAt(at: point): point {
+        return table.view.cellAtPosition(Qt.point(at.x + table.view.contentX, at.y + table.view.contentY));
     }
 
-    function hover() {
-        const cell = hoverPoint ? cellAt(hoverPoint.x, hoverPoint.y) : Qt.point(-1, -1);
+    // To call when the rows move below the pointer, too.
+    function noteHover() {
+        const cell = hover.hovered ? cellAt(hover.point.position) : Qt.point(-1, -1);
         if (cell.x === hoveredCell.x && cell.y === hoveredCell.y)
             return;
         if (cell.y >= 0)
@@ -29,56 +27,69 @@ MouseArea {
         hoveredCell = cell;
     }
 
-    function select(cell: point, event: var) {
-        table.endPreFocus();
-        if (event.button === Qt.RightButton)
-            table.model.rightClickSelection(cell.y, cell.x);
-        else if (event.modifiers & Qt.ShiftModifier)
-            table.model.shiftSelection(cell.y, cell.x);
-        else if (event.modifiers & Qt.ControlModifier)
-            table.model.ctrlSelection(cell.y, cell.x);
-        else
-            table.model.leftClickSelection(cell.y, cell.x);
-    }
-
-    z: -1
-    x: table.view.contentX
-    y: table.view.contentY
-    width: table.view.width
-    height: table.view.height
-    acceptedButtons: Qt.LeftButton | Qt.RightButton
-    preventStealing: true
-
-    onHoverPointChanged: hover()
-
-    onPressed: event => {
-        const cell = cellAt(event.x, event.y);
-        table.forceActiveFocus();
+    function press(row: int, column: int, event: var) {
+        const isLeft = event.button === Qt.LeftButton;
+        table.takeFocus();
         table.stopTyping();
-        lastRow = event.button === Qt.LeftButton && !(event.modifiers & Qt.ControlModifier) ? cell.y : -1;
-        if (cell.y >= 0)
-            select(cell, event);
+        table.endPreFocus();
+        if (!isLeft)
+            table.model.rightClickSelection(row, column);
+        else if (event.modifiers & Qt.ShiftModifier)
+            table.model.shiftSelection(row, column);
+        else if (event.modifiers & Qt.ControlModifier)
+            table.model.ctrlSelection(row, column);
         else
-            table.model?.clearSelection();
-        table.farRow = cell.y;
+            table.model.leftClickSelection(row, column);
+        table.farRow = row;
+        dragRow = isLeft && !(event.modifiers & Qt.ControlModifier) ? row : -1;
     }
-    onPositionChanged: event => {
-        // A drag beyond the view goes as far as the next row.
-        const row = Math.floor((event.y + table.view.contentY) / Metrics.rowHeight);
-        if (lastRow < 0 || row === lastRow)
-            return;
-        lastRow = row;
-        table.extendTo(row);
+
+    function doubleClick(row: int, column: int) {
+        dragRow = -1;
+        if (!table.edit(row, column))
+            table.cellActivated(row, column);
     }
-    onReleased: event => {
-        const at = mapToItem(table, event.x, event.y);
-        const cell = cellAt(event.x, event.y);
-        if (event.button === Qt.RightButton && containsMouse)
-            table.contextMenuRequested(cell.y, cell.x, at);
+
+    function askForMenu(row: int, column: int, at: point) {
+        table.contextMenuRequested(row, column, mapToItem(table, at.x, at.y));
     }
-    onDoubleClicked: event => {
-        const cell = cellAt(event.x, event.y);
-        if (event.button === Qt.LeftButton && cell.y >= 0 && !table.edit(cell.y, cell.x))
-            table.cellActivated(cell.y, cell.x);
+
+    HoverHandler {
+        id: hover
+
+        onHoveredChanged: pointer.noteHover()
+        onPointChanged: pointer.noteHover()
+    }
+    TapHandler {
+        acceptedButtons: Qt.LeftButton | Qt.RightButton
+        gesturePolicy: TapHandler.WithinBounds
+        onTapped: (eventPoint, button) => {
+            if (pointer.cellAt(eventPoint.position).y >= 0)
+                return;
+            pointer.table.takeFocus();
+            pointer.table.model?.clearSelection();
+            if (button === Qt.RightButton)
+                pointer.askForMenu(-1, -1, eventPoint.position);
+        }
+    }
+    // Sees the drag, also when the cell where it began is gone.
+    Item {
+        z: 1
+        anchors.fill: parent
+
+        PointHandler {
+            acceptedButtons: Qt.LeftButton
+            onActiveChanged: {
+                if (!active)
+                    pointer.dragRow = -1;
+            }
+            onPointChanged: {
+                const row = Math.floor((point.position.y + pointer.table.view.contentY) / Metrics.rowHeight);
+                if (pointer.dragRow < 0 || row === pointer.dragRow)
+                    return;
+                pointer.dragRow = Math.max(0, row);
+                pointer.table.extendTo(row);
+            }
+        }
     }
 }
