@@ -32,15 +32,30 @@ namespace workbench {
 namespace {
 constexpr int pollInterval = 20; // milliseconds
 
-QQuickItem* findBelow(QQuickItem* item, const QString& name)
+/// What is seen of an item in its window.
+QRectF visiblePart(const QQuickItem& item)
+{
+    QRectF part = item.mapRectToScene(QRectF(0, 0, item.width(), item.height()));
+    for (const QQuickItem* outer = item.parentItem(); outer; outer = outer->parentItem())
+        if (outer->clip())
+            part &= outer->mapRectToScene(QRectF(0, 0, outer->width(), outer->height()));
+    return part & QRectF(QPointF(), item.window()->size());
+}
+
+/// One that is scrolled out of sight goes to `hidden`, unless there is one already.
+QQuickItem* findBelow(QQuickItem* item, const QString& name, QQuickItem*& hidden)
 {
     if (!item || !item->isVisible())
         return nullptr;
-    if (item->objectName() == name)
-        return item;
+    if (item->objectName() == name) {
+        if (!visiblePart(*item).isEmpty())
+            return item;
+        if (!hidden)
+            hidden = item;
+    }
     // Rows of a list are children of the view only, not of the page's objects.
     for (QQuickItem* child : item->childItems())
-        if (QQuickItem* found = findBelow(child, name))
+        if (QQuickItem* found = findBelow(child, name, hidden))
             return found;
     return nullptr;
 }
@@ -68,6 +83,7 @@ bool isClose(QRgb left, QRgb right)
     return std::abs(qRed(left) - qRed(right)) < most && std::abs(qGreen(left) - qGreen(right)) < most &&
            std::abs(qBlue(left) - qBlue(right)) < most;
 }
+
 void collectTexts(const wxWindow& window, QString& texts)
 {
     for (const wxWindow* child : window.GetChildren()) {
@@ -131,14 +147,15 @@ QQuickItem* Driver::findItem(const QString& name)
         const auto* model = table ? table->property("model").value<QAbstractItemModel*>() : nullptr;
         return model ? findCell(table, *model, parts[1], parts[2]) : nullptr;
     }
+    QQuickItem* hidden = nullptr;
     if (const PagePopup* open = popup())
-        if (QQuickItem* item = findBelow(open->view()->contentItem(), name))
+        if (QQuickItem* item = findBelow(open->view()->contentItem(), name, hidden))
             return item;
     for (PagePanel* page : m_app.pages().pages())
         if (page->IsShownOnScreen())
-            if (QQuickItem* item = findBelow(page->view()->contentItem(), name))
+            if (QQuickItem* item = findBelow(page->view()->contentItem(), name, hidden))
                 return item;
-    return nullptr;
+    return hidden;
 }
 
 QQuickItem* Driver::needItem(const QString& name)
@@ -189,8 +206,10 @@ QPoint Driver::placeOfItem(const QString& name)
         const QQuickItem* item = findItem(name);
         if (!item || !item->isEnabled() || item->width() <= 0)
             return false;
-        const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
-        const QPoint now = originOf(*item->window()) + (centre * item->window()->devicePixelRatio()).toPoint();
+        const QRectF part = visiblePart(*item);
+        if (part.isEmpty())
+            return false;
+        const QPoint now = originOf(*item->window()) + (part.center() * item->window()->devicePixelRatio()).toPoint();
         return std::exchange(place, now) == now;
     });
     return place;

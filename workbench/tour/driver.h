@@ -65,7 +65,7 @@ public:
     bool hasItem(const QString& name);
     QVariant property(const QString& name, const char* property);
     void clickItem(const QString& name, int button = 1, const QString& modifier = {});
-    /// The item's middle on the screen, once it stays there.
+    /// On the screen, the middle of what is seen of the item, once it stays there.
     QPoint placeOfItem(const QString& name);
     /// Whether the item or what is in it has the keyboard.
     bool itemHasFocus(const QString& name);

@@ -30,7 +30,6 @@ private:
     /// The name of a cell in the table of entities, for the driver.
     QString cell(int row, const char* column);
     QString title(int column);
-    void chooseInHeaderMenu(const QString& header, int entry);
 
     Driver& m_driver;
     MainFrame& m_frame;
