@@ -33,14 +33,13 @@ FocusScope {
     readonly property alias header: header
     readonly property alias view: view
     readonly property alias pointer: pointer
+    readonly property alias keyboard: keyboard
     readonly property bool isPointed: pointer.hoveredCell.y >= 0
     readonly property alias isEditing: editor.isOpen
 
     readonly property color stripe: Qt.alpha(Colors.text, Colors.dark ? 0.025 : 0.022)
     readonly property color gridLine: Qt.alpha(Colors.separator, Colors.dark ? 0.45 : 0.6)
 
-    // The far end of a selection that is being extended by keys; -1: none.
-    property int farRow: -1
     // Where the first column begins in the content of the view, which guesses this after a jump.
     property real columnOrigin: 0
 
@@ -67,58 +66,9 @@ FocusScope {
         return view.itemAtCell(Qt.point(column, row)) as ModelTableCell;
     }
 
-    function moveTo(row: int) {
-        farRow = -1;
-        typed.stop();
-        endPreFocus();
-        if (view.rows > 0)
-            model.leftClickSelection(Math.min(view.rows - 1, Math.max(0, row)), Math.max(0, currentCell().x));
-    }
-
-    function extendTo(row: int) {
-        typed.stop();
-        endPreFocus();
-        if (view.rows <= 0)
-            return;
-        const far = Math.min(view.rows - 1, Math.max(0, row));
-        model.shiftSelection(far, Math.max(0, currentCell().x));
-        view.positionViewAtRow(far, TableView.Contain);
-        farRow = far;
-    }
-
-    function stepRow(down: bool) {
-        farRow = -1;
-        typed.stop();
-        if (model.hasPreFocus())
-            down ? model.increasePreFocusIndexRow() : model.decreasePreFocusIndexRow();
-        else if (currentCell().y < 0)
-            moveTo(0);
-        else
-            down ? model.selectNextRow() : model.selectPreviousRow();
-    }
-
-    function stepColumn(right: bool) {
-        typed.stop();
-        if (currentCell().y < 0)
-            stepRow(true);
-        else if (right)
-            model.increasePreFocusIndexColumn();
-        else
-            model.decreasePreFocusIndexColumn();
-    }
-
     // Also from an editor, which keeps its own scope.
     function takeFocus() {
         keyboard.forceActiveFocus();
-    }
-
-    function stopTyping() {
-        typed.stop();
-    }
-
-    function endPreFocus() {
-        if (model?.hasPreFocus())
-            model.unsetPreFocus();
     }
 
     // Whether the cell can be edited.
@@ -145,24 +95,6 @@ FocusScope {
             cellActivated(row, column);
     }
 
-    function toggle(row: int, column: int) {
-        const index = model.index(row, column);
-        if (model.flags(index) & Qt.ItemIsUserCheckable)
-            commit(row, column, model.data(index, Qt.CheckStateRole) ? Qt.Unchecked : Qt.Checked, Qt.CheckStateRole);
-        else
-            cellItem(row, column)?.content?.activate?.();
-    }
-
-    function enter(isEdit: bool) {
-        const current = currentCell();
-        if (model.hasPreFocus())
-            model.requestActiveFocusOnPrefocusedCell();
-        else if (isEdit)
-            model.setBeginEditIndex(current.y);
-        else
-            cellActivated(current.y, current.x);
-    }
-
     // As wide as the title and what is seen of the column want it.
     function fitColumn(column: int) {
         let width = header.wantedWidth(column);
@@ -172,77 +104,16 @@ FocusScope {
         columns.save();
     }
 
-    // Typed letters look here: in the column of names, or in the first one that shows texts.
-    function letterColumn(): int {
-        const named = columns.list.findIndex(column => column.id !== "" && column.id === model.defaultEditableColumnId);
-        return Math.max(0, named >= 0 ? named : columns.list.findIndex(column => !(column.type in delegates)));
-    }
-
-    function find(letters: string) {
-        if (view.rows <= 0)
-            return;
-        const from = currentCell().y + (letters.length > 1 ? 0 : 1);
-        const start = model.index(Math.max(0, from) % view.rows, letterColumn());
-        const hits = model.match(start, Qt.DisplayRole, letters, 1, Qt.MatchStartsWith | Qt.MatchWrap);
-        if (hits.length > 0)
-            model.leftClickSelection(hits[0].row, Math.max(0, currentCell().x));
-    }
-
-    function askForMenu(cell: point) {
-        const y = pointer.y + (cell.y + 1) * Metrics.rowHeight - view.contentY;
-        contextMenuRequested(cell.y, cell.x, Qt.point(Metrics.rowHeight, y));
-    }
-
     function noteOrigin() {
         const item = view.itemAtCell(Qt.point(view.leftColumn, view.topRow));
         columnOrigin = item ? item.x - columns.edges[view.leftColumn] : 0;
     }
 
-    Keys.onPressed: event => {
-        if (!model || editor.isOpen)
-            return;
-        const page = Math.max(1, Math.floor(view.height / Metrics.rowHeight) - 1);
-        const isExtending = event.modifiers & Qt.ShiftModifier;
-        const current = currentCell();
-        const from = isExtending && farRow >= 0 ? farRow : current.y;
-        const go = row => isExtending ? extendTo(row) : moveTo(row);
-        event.accepted = true;
-        if (event.key === Qt.Key_Up)
-            isExtending ? extendTo(from - 1) : stepRow(false);
-        else if (event.key === Qt.Key_Down)
-            isExtending ? extendTo(from + 1) : stepRow(true);
-        else if (event.key === Qt.Key_Right)
-            stepColumn(true);
-        else if (event.key === Qt.Key_Left)
-            stepColumn(false);
-        else if (event.key === Qt.Key_Home)
-            go(0);
-        else if (event.key === Qt.Key_End)
-            go(view.rows - 1);
-        else if (event.key === Qt.Key_PageUp)
-            go(from - page);
-        else if (event.key === Qt.Key_PageDown)
-            go(from + page);
-        else if (event.matches(StandardKey.SelectAll) && view.rows > 0)
-            model.selectAll();
-        else if ((event.key === Qt.Key_Return || event.key === Qt.Key_Enter) && current.y >= 0)
-            enter(false);
-        else if (event.key === Qt.Key_F2 && current.y >= 0)
-            enter(true);
-        else if (event.key === Qt.Key_Escape && model.hasPreFocus())
-            endPreFocus();
-        else if (event.key === Qt.Key_Space && marks.preFocus().valid)
-            toggle(marks.preFocus().row, marks.preFocus().column);
-        else if (event.key === Qt.Key_Menu && current.y >= 0)
-            askForMenu(current);
-        else
-            event.accepted = typed.take(event);
-    }
-
-    Item {
+    ModelTableKeyboard {
         id: keyboard
 
-        focus: true
+        table: control
+        marks: marks
     }
     ModelTableColumns {
         id: columns
@@ -261,11 +132,6 @@ FocusScope {
             control.noteOrigin();
         }
     }
-    TypedLetters {
-        id: typed
-
-        onWanted: letters => control.find(letters)
-    }
     CellMarks {
         id: marks
 
@@ -276,17 +142,37 @@ FocusScope {
                 view.positionViewAtColumn(column, TableView.Contain);
             } else if (role === "isFocusCell") {
                 control.activate(row, column);
-            } else if (control.edit(row, column)) {
+            } else {
+                control.edit(row, column);
                 // For the same row to be edited again.
                 control.model.setBeginEditIndex(-1);
             }
         }
     }
     Connections {
+        target: control.model ?? null
+
+        function onSourceModelChanged() {
+            rebind.restart();
+        }
+    }
+    // The view keeps the numbers of the roles, which differ from source to source.
+    Timer {
+        id: rebind
+
+        interval: 0
+        onTriggered: {
+            view.model = null;
+            // It looks at its model only now.
+            view.forceLayout();
+            view.model = Qt.binding(() => control.model);
+        }
+    }
+    Connections {
         target: control.model?.selectionModel ?? null
 
         function onCurrentChanged(current) {
-            control.farRow = -1;
+            keyboard.farRow = -1;
             if (current.row >= 0)
                 view.positionViewAtRow(current.row, TableView.Contain);
         }
@@ -378,5 +264,15 @@ FocusScope {
         width: pointer.width
         orientation: Qt.Horizontal
         policy: pointer.isWide ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
+    }
+    // Where the column that is moved would go.
+    Rectangle {
+        objectName: "dropLine"
+        visible: header.gap >= 0 && header.gap !== header.dragged
+        x: header.x + header.origin + (columns.edges[header.gap] ?? 0) - 1
+        y: 2
+        width: 2
+        height: header.height + pointer.height
+        color: Colors.accent
     }
 }

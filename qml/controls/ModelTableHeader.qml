@@ -43,6 +43,18 @@ Item {
             gap = column;
     }
 
+    // At the ends of the view it goes on.
+    function scroll() {
+        const view = table.view;
+        const step = dragX < Metrics.rowHeight ? -8 : dragX > view.width - Metrics.rowHeight ? 8 : 0;
+        const last = Math.max(0, columns.total - view.width);
+        const x = Math.max(0, Math.min(last, view.contentX - table.columnOrigin + step)) + table.columnOrigin;
+        if (x === view.contentX)
+            return;
+        view.contentX = x;
+        drag(dragged, dragX);
+    }
+
     function drop() {
         const from = dragged;
         const to = gap > from ? gap - 1 : gap;
@@ -63,6 +75,12 @@ Item {
         menu.popup(control, x, y);
     }
 
+    Timer {
+        interval: 16
+        repeat: true
+        running: control.dragged >= 0
+        onTriggered: control.scroll()
+    }
     ModelTableMenu {
         id: menu
 
@@ -112,7 +130,7 @@ Item {
         width: control.columns.widths[control.dragged] ?? 0
         height: parent.height
         radius: Metrics.radius
-        opacity: 0.75
+        opacity: 0.9
         color: Colors.selection
         border.color: Colors.accent
 

@@ -1,4 +1,6 @@
 import QtQuick
+import QtQuick.Controls
+import Tandolin
 import Tandolin.API.Core.Themes
 
 // The mouse over the view of a ModelTable: clicks select, a drag extends the selection. Cells tell of what isn't taken by
@@ -30,8 +32,8 @@ Item {
     function press(row: int, column: int, event: var) {
         const isLeft = event.button === Qt.LeftButton;
         table.takeFocus();
-        table.stopTyping();
-        table.endPreFocus();
+        table.keyboard.stopTyping();
+        table.keyboard.endPreFocus();
         if (!isLeft)
             table.model.rightClickSelection(row, column);
         else if (event.modifiers & Qt.ShiftModifier)
@@ -40,7 +42,7 @@ Item {
             table.model.ctrlSelection(row, column);
         else
             table.model.leftClickSelection(row, column);
-        table.farRow = row;
+        table.keyboard.farRow = row;
         dragRow = isLeft && !(event.modifiers & Qt.ControlModifier) ? row : -1;
     }
 
@@ -72,6 +74,14 @@ Item {
                 pointer.askForMenu(-1, -1, eventPoint.position);
         }
     }
+    ToolTip {
+        readonly property Item cell: pointer.hoveredCell.y >= 0
+            ? pointer.table.cellItem(pointer.hoveredCell.y, pointer.hoveredCell.x) : null
+
+        parent: cell ?? pointer
+        text: cell?.text ?? ""
+        visible: Settings.tooltips && pointer.dragRow < 0 && (cell?.isTruncated ?? false)
+    }
     // Sees the drag, also when the cell where it began is gone.
     Item {
         z: 1
@@ -88,7 +98,7 @@ Item {
                 if (pointer.dragRow < 0 || row === pointer.dragRow)
                     return;
                 pointer.dragRow = Math.max(0, row);
-                pointer.table.extendTo(row);
+                pointer.table.keyboard.extendTo(row);
             }
         }
     }

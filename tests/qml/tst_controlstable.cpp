@@ -51,10 +51,10 @@ public:
     }
     QVariant data(const QModelIndex& index, int role) const override
     {
-        const auto written = m_written.constFind({index.row(), index.column()});
         const bool isText = role == Qt::DisplayRole || role == Qt::EditRole;
-        if (written != m_written.constEnd() && role == (index.column() == 1 ? Qt::CheckStateRole : role))
-            return isText || role == Qt::CheckStateRole ? *written : QVariant();
+        const auto written = m_written.constFind({index.row(), index.column()});
+        if (written != m_written.constEnd() && (index.column() == 1 ? role == Qt::CheckStateRole : isText))
+            return *written;
         if (role == Qt::CheckStateRole && index.column() == 1)
             return int(Qt::Unchecked);
         if (!isText || index.column() == 1)
@@ -231,6 +231,7 @@ private Q_SLOTS:
     void theRowUnderThePointerIsHovered();
     void aMillionRowsMakeFewCells();
     void theHeaderStaysAboveItsColumns();
+    void anotherSourceHasOtherRoles();
 
 private:
     std::optional<velmtest::TemporaryConfig> m_config;
@@ -604,6 +605,35 @@ void TestControlsTable::theHeaderStaysAboveItsColumns()
     t.view()->setProperty("contentX", 2000.0);
     t.model.moveColumn(0, 39);
     check();
+}
+
+void TestControlsTable::anotherSourceHasOtherRoles()
+{
+    ShownTable t;
+    QVERIFY(t.shown->isReady());
+    class OtherRows : public Rows
+    {
+    public:
+        OtherRows() : Rows(5) { columns().columns.resize(3); }
+        QHash<int, QByteArray> roleNames() const override
+        {
+            auto names = Rows::roleNames();
+            names[Qt::UserRole] = "first";
+            names[Qt::UserRole + 1] = "second";
+            return names;
+        }
+    } other;
+    t.model.setSourceModel(&other);
+    t.settle();
+    QCOMPARE(t.texts(4), QStringLiteral("Row 4||4"));
+    t.click(t.point(3, 0));
+    QTRY_VERIFY(t.cell(3, 0) && t.cell(3, 0)->property("isSelected").toBool());
+    QVERIFY(!t.cell(3, 0)->property("isPreFocusCell").toBool());
+    t.press(Qt::Key_Right);
+    QVERIFY(t.cell(3, 0)->property("isPreFocusCell").toBool());
+    t.model.setSourceModel(nullptr);
+    t.settle();
+    QVERIFY(!t.cell(0, 0));
 }
 
 int main(int argc, char** argv)

@@ -15,9 +15,14 @@ Item {
 
     implicitWidth: label.x + label.implicitWidth + Metrics.padding
 
-    TapHandler {
-        acceptedModifiers: Qt.NoModifier
-        onTapped: content.activate()
+    MouseArea {
+        anchors.fill: parent
+        // Keys with it extend the selection.
+        onPressed: event => event.accepted = event.modifiers === Qt.NoModifier
+        onClicked: {
+            content.cell.table.model.leftClickSelection(content.cell.row, content.cell.column);
+            content.activate();
+        }
     }
     ColorSwatch {
         id: swatch

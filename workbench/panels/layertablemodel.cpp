@@ -27,9 +27,9 @@ velm::Columns columns()
     columns.columns = {
         tableColumn(Model::NameColumn, CellKind::Text, Model::tr("Name"), "name", 80).sortType(velm::SortAlphanumeric),
         tableColumn(Model::OnColumn, CellKind::Check, Model::tr("On"), "on", 30),
-        tableColumn(Model::FrozenColumn, CellKind::Check, Model::tr("Frozen"), "frozen", 50),
-        tableColumn(Model::LockedColumn, CellKind::Check, Model::tr("Locked"), "locked", 52),
-        tableColumn(Model::ColorColumn, CellKind::Color, Model::tr("Colour"), "color", 64)
+        tableColumn(Model::FrozenColumn, CellKind::Check, Model::tr("Frozen"), "frozen", 56),
+        tableColumn(Model::LockedColumn, CellKind::Check, Model::tr("Locked"), "locked", 58),
+        tableColumn(Model::ColorColumn, CellKind::Color, Model::tr("Colour"), "color", 80)
             .sortType(velm::SortAlphanumeric),
         tableColumn(Model::LinetypeColumn, CellKind::Choice, Model::tr("Linetype"), "linetype", 100)
             .sortType(velm::SortAlphanumeric),

@@ -149,6 +149,7 @@ void PanelTour::walkThroughBranches()
 {
     showPanel("Branch");
     m_driver.clickItem("branch");
+    m_driver.waitFor("the keyboard in the branch", [&] { return m_driver.itemHasFocus("branch"); });
     const auto crumbs = [this] { return m_driver.ask([&] { return m_frame.branch().crumbs().size(); }); };
     m_driver.key("Home");
     m_driver.key("Return");

@@ -169,6 +169,8 @@ void Tour::editLayer()
     m_driver.key("F2");
     m_driver.waitFor("the keyboard in the name", [&] { return m_driver.itemHasFocus("editor"); });
     m_driver.replaceText("Edited in the table");
+    m_driver.waitFor("the name in the cell",
+                     [&] { return m_driver.property("editor", "text") == "Edited in the table"; });
     save("layer-name-in-place");
     m_driver.key("Return");
     m_driver.waitFor("the name in the drawing", [&] { return layer(L"Edited in the table") != nullptr; });
