@@ -121,9 +121,7 @@ void TablesTest::theProgramStartsWithTheSameColumns()
     QCOMPARE(shown.mid(0, 3), QStringList({"number", "layer", "type"}));
     QVERIFY(!shown.contains("linetype"));
     QVERIFY(m_driver.ask([&] { return table().columnWidth(1); }) > 120);
-    const QPoint layer = m_driver.placeOfItem("header:Layer");
-    QVERIFY(layer.x() < m_driver.placeOfItem("header:Type").x());
-    QVERIFY(!m_driver.hasItem("header:Linetype"));
+    QVERIFY(m_driver.placeOfItem("header:Layer").x() < m_driver.placeOfItem("header:Type").x());
 }
 
 int main(int argc, char** argv)

@@ -38,10 +38,10 @@ QString TableTour::title(int column)
 
 void TableTour::showEntities()
 {
-    m_driver.ask([&] {
-        m_frame.showPanel("Entities");
-        m_frame.selection().clear();
-    });
+    m_driver.ask([&] { m_frame.showPanel("Entities"); });
+    // What was selected before may have been brought into view.
+    m_driver.clickItem("entities");
+    m_driver.key("Home");
     m_driver.waitFor("rows on the screen", [&] { return m_driver.hasItem(cell(0, "type")); });
     check(m_driver.ask([&] { return m_frame.entities().table()->rowCount() > 1; }), "the table shows entities");
 }
@@ -62,6 +62,7 @@ void TableTour::selectRange()
 {
     const auto selected = [this] { return m_frame.selection().entities().size(); };
     const QColor accent = m_driver.ask([] { return velm::toQt(wxGuiColour(ut::EGuiColor::BlueHighlight)); });
+    m_driver.ask([&] { m_frame.selection().clear(); });
     const int before = m_driver.countPixels(m_frame.canvas(), accent.rgb());
     const int last = m_driver.ask([&] { return std::min(3, m_frame.entities().table()->rowCount() - 1); });
     m_driver.clickItem(cell(0, "type"));
