@@ -31,7 +31,7 @@ namespace {
 constexpr int sideWidth = 340;
 constexpr int lowerHeight = 130;
 constexpr int lowerPanelsHeight = 290;
-constexpr int tablesHeight = 250;
+constexpr int tablesHeight = 270;
 const OdString rectKey = L"MainWindow/Rectangle";
 const OdString maximizedKey = L"MainWindow/Maximized";
 

@@ -25,14 +25,14 @@ velm::Columns makeColumns()
         tableColumn(M::ColorColumn, CellKind::Color, M::tr("Colour"), "color", 90).sortType(velm::SortAlphanumeric),
         tableColumn(M::LinetypeColumn, CellKind::Text, M::tr("Linetype"), "linetype", 80)
             .sortType(velm::SortAlphanumeric),
-        tableColumn(M::LineWeightColumn, CellKind::Number, M::tr("Lineweight"), "lineweight", 78)
+        tableColumn(M::LineWeightColumn, CellKind::Number, M::tr("Lineweight"), "lineweight", 84)
             .sortType(velm::SortInteger),
-        tableColumn(M::LengthColumn, CellKind::Number, M::tr("Length"), "length", 68).sortType(mayBeEmpty),
-        tableColumn(M::RadiusColumn, CellKind::Number, M::tr("Radius"), "radius", 64).sortType(mayBeEmpty),
-        tableColumn(M::AreaColumn, CellKind::Number, M::tr("Area"), "area", 68).sortType(mayBeEmpty),
-        tableColumn(M::StartXColumn, CellKind::Number, M::tr("Start X"), "startx", 64).sortType(velm::SortDouble),
-        tableColumn(M::StartYColumn, CellKind::Number, M::tr("Start Y"), "starty", 64).sortType(velm::SortDouble),
-        tableColumn(M::TextColumn, CellKind::Text, M::tr("Text"), "text", 100).sortType(velm::SortAlphanumeric),
+        tableColumn(M::LengthColumn, CellKind::Number, M::tr("Length"), "length", 80).sortType(mayBeEmpty),
+        tableColumn(M::RadiusColumn, CellKind::Number, M::tr("Radius"), "radius", 72).sortType(mayBeEmpty),
+        tableColumn(M::AreaColumn, CellKind::Number, M::tr("Area"), "area", 100).sortType(mayBeEmpty),
+        tableColumn(M::StartXColumn, CellKind::Number, M::tr("Start X"), "startx", 72).sortType(velm::SortDouble),
+        tableColumn(M::StartYColumn, CellKind::Number, M::tr("Start Y"), "starty", 72).sortType(velm::SortDouble),
+        tableColumn(M::TextColumn, CellKind::Text, M::tr("Text"), "text", 110).sortType(velm::SortAlphanumeric),
     };
     return result;
 }
