@@ -10,7 +10,6 @@
 
 namespace velmbench {
 namespace {
-constexpr int repetitions = 7;
 constexpr auto bytesCounter = "bytes";
 const std::string oursSuffix = "/velm";
 const std::string yardstickSuffix = "/yardstick";
@@ -22,7 +21,7 @@ struct Comparison
 };
 std::vector<Comparison> comparisons;
 
-void add(const Comparison& comparison, const Workload& ours, const Workload& yardstick)
+void add(const Comparison& comparison, const Workload& ours, const Workload& yardstick, int repetitions)
 {
     comparisons.push_back(comparison);
     for (const auto& [suffix, workload] : {std::pair(oursSuffix, ours), std::pair(yardstickSuffix, yardstick)})
@@ -76,14 +75,14 @@ private:
 };
 } // namespace
 
-void compare(const std::string& name, const Workload& ours, const Workload& yardstick)
+void compare(const std::string& name, const Workload& ours, const Workload& yardstick, int repetitions)
 {
-    add({name, false}, ours, yardstick);
+    add({name, false}, ours, yardstick, repetitions);
 }
 
 void compareBytes(const std::string& name, const Workload& ours, const Workload& yardstick)
 {
-    add({name, true}, ours, yardstick);
+    add({name, true}, ours, yardstick, 7);
 }
 
 void setBytes(benchmark::State& state, double bytes)

@@ -10,7 +10,7 @@ using Workload = std::function<void(benchmark::State&)>;
 
 /// Registers one workload in its two forms. Each is measured once a repetition; what it does before and after its loop
 /// isn't counted.
-void compare(const std::string& name, const Workload& ours, const Workload& yardstick);
+void compare(const std::string& name, const Workload& ours, const Workload& yardstick, int repetitions = 7);
 /// As compare(), of the bytes that the forms tell by setBytes() and not of their time.
 void compareBytes(const std::string& name, const Workload& ours, const Workload& yardstick);
 
@@ -26,4 +26,5 @@ void runComparisons(int argc, char** argv);
 
 void addTreeModels();
 void addListModels();
+void addTables();
 } // namespace velmbench

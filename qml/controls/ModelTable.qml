@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Controls
-import Tandolin
 import Tandolin.API.Controls
 import Tandolin.API.Core.Themes
 
@@ -16,7 +15,8 @@ import Tandolin.API.Core.Themes
 // - in "editors" a component with "required property var value" and the signals accepted(var value) and cancelled(). It
 //   covers the cell while it is edited, and its parent tells row and column. It may have a function finish(), which
 //   accepts what it shows: another edit begins. The value goes to the model by setData().
-// A cell that is editable and has no delegate is edited as a text.
+// A cell that is editable and has no delegate is edited as a text. ModelTableCheck is a delegate for check boxes; a column
+// of selection marks has it without being asked.
 //
 // Keys: Up, Down, Home, End and page keys select rows, with Shift they extend the selection, Control+A selects all. Left and
 // Right begin the pre-focus of single cells, which the arrows then move; Enter or F2 works on the pre-focused cell, the
@@ -39,6 +39,8 @@ FocusScope {
 
     readonly property color stripe: Qt.alpha(Colors.text, Colors.dark ? 0.025 : 0.022)
     readonly property color gridLine: Qt.alpha(Colors.separator, Colors.dark ? 0.45 : 0.6)
+
+    readonly property Component selectionMark: ModelTableCheck {}
 
     // Where the first column begins in the content of the view, which guesses this after a jump.
     property real columnOrigin: 0

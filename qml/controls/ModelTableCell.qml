@@ -24,7 +24,7 @@ Rectangle {
     readonly property bool isTruncated: label.visible && label.truncated
     readonly property string text: label.text
 
-    property var contentComponent: table.delegates[info.type] ?? null
+    property var contentComponent: table.delegates[info.type] ?? (info.selectionColumn ? table.selectionMark : null)
     property var madeFrom: null
 
     // Writes to the model.

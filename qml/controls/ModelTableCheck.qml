@@ -2,11 +2,17 @@ import QtQuick
 import QtQuick.Controls
 import Tandolin.API.Controls
 
-// A delegate of a ModelTable: a check box of the role "checkState".
+// A delegate of a ModelTable: a check box of the role "checkState", or of whether the row is selected in a column that shows
+// that.
 Item {
     id: check
 
     required property ModelTableCell cell
+    readonly property int shownState: {
+        if (cell.info.selectionColumn)
+            return cell.isSelected ? Qt.Checked : Qt.Unchecked;
+        return cell.model.checkState ?? Qt.Unchecked;
+    }
 
     implicitWidth: box.implicitWidth
 
@@ -21,12 +27,15 @@ Item {
         objectName: "check"
         anchors.centerIn: parent
         focusPolicy: Qt.NoFocus
-        checkState: check.cell.model.checkState ?? Qt.Unchecked
+        checkState: check.shownState
         Accessible.name: check.cell.info.title ?? ""
         // The model alone says what is checked.
         onToggled: {
-            check.cell.commit(checkState, Qt.CheckStateRole);
-            checkState = Qt.binding(() => check.cell.model.checkState ?? Qt.Unchecked);
+            if (check.cell.info.selectionColumn)
+                check.cell.table.model.ctrlSelection(check.cell.row, check.cell.column);
+            else
+                check.cell.commit(checkState, Qt.CheckStateRole);
+            checkState = Qt.binding(() => check.shownState);
         }
     }
 }

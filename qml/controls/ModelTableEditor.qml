@@ -12,6 +12,8 @@ FocusScope {
     property Item content: null
     readonly property bool isOpen: content !== null
 
+    // The view puts its cells at 1.
+    z: 2
     visible: isOpen
 
     // Without a component a text is edited.

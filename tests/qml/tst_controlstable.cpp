@@ -232,6 +232,8 @@ private Q_SLOTS:
     void aMillionRowsMakeFewCells();
     void theHeaderStaysAboveItsColumns();
     void anotherSourceHasOtherRoles();
+    void selectionMarksAddRows();
+    void theModelMayGoFirst();
 
 private:
     std::optional<velmtest::TemporaryConfig> m_config;
@@ -634,6 +636,41 @@ void TestControlsTable::anotherSourceHasOtherRoles()
     t.model.setSourceModel(nullptr);
     t.settle();
     QVERIFY(!t.cell(0, 0));
+}
+
+void TestControlsTable::selectionMarksAddRows()
+{
+    ShownTable t(10, [](Rows& rows) { rows.columns().columns[3].selectionColumn = true; });
+    QVERIFY(t.shown->isReady());
+    t.click(t.point(2, 0));
+    t.click(t.point(4, 3));
+    QCOMPARE(t.selection(), QStringLiteral("2 4 (4)"));
+    t.click(t.point(2, 3));
+    QCOMPARE(t.selection(), QStringLiteral("4 (4)"));
+    const auto isChecked = [&](int row) {
+        return findItem(t.cell(row, 3), QStringLiteral("check"))->property("checked").toBool();
+    };
+    QVERIFY(isChecked(4) && !isChecked(2));
+}
+
+void TestControlsTable::theModelMayGoFirst()
+{
+    Rows rows(20);
+    auto model = std::make_unique<SortFilterSelectModel>();
+    model->setSourceModel(&rows);
+    PageEngine engine;
+    Shown shown(engine.load("ModelTable {}", {{QStringLiteral("model"), QVariant::fromValue<QObject*>(model.get())}}));
+    QVERIFY(shown.isReady());
+    shown.press(Qt::Key_Down);
+    shown.press(Qt::Key_F2);
+    shown.window()->grabWindow();
+    model.reset();
+    shown.window()->grabWindow();
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Right, Qt::Key_End, Qt::Key_Return})
+        shown.press(key);
+    QTest::mouseClick(shown.window(), Qt::LeftButton, {}, QPoint(50, 60));
+    QTest::mouseClick(shown.window(), Qt::RightButton, {}, QPoint(50, 10));
+    QTRY_COMPARE(shown.page()->property("view").value<QQuickItem*>()->property("rows").toInt(), 0);
 }
 
 int main(int argc, char** argv)

@@ -12,8 +12,11 @@ namespace velm {
 SortFilterSelectModel::Pimpl::Pimpl(SortFilterSelectModel& model)
     : q(&model), selectionModel(q), cursor(model, selectionModel), columnMenu(model)
 {
-    const auto forgetCells = [this] { selectedCells.reset(); };
-    selectionModel.aboutToChange = forgetCells;
+    selectionModel.aboutToChange = [this] { selectedCells.reset(); };
+    const auto forgetCells = [this] {
+        selectedCells.reset();
+        acceptedIsShown = false;
+    };
     QObject::connect(q, &QAbstractItemModel::rowsInserted, q, forgetCells);
     QObject::connect(q, &QAbstractItemModel::rowsRemoved, q, forgetCells);
     QObject::connect(q, &QAbstractItemModel::rowsMoved, q, forgetCells);
@@ -259,6 +262,8 @@ QVariant SortFilterSelectModel::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid() || !sourceModel())
         return {};
+    if (role < Qt::UserRole)
+        return QSortFilterProxyModel::data(index, role);
     Pimpl& p = *m_pimpl;
     const TableCursor::Roles& roles = p.cursor.roles();
     if (role == p.selectedRole) {

@@ -73,10 +73,12 @@ struct SortFilterSelectModel::Pimpl
     void applyInitialSort(bool force);
     void sortBase(int baseColumn, Qt::SortOrder order);
     std::optional<int> sourceColumnOfBase(int baseColumn) const;
+    std::vector<int> sourceRows() const;
     std::vector<int> shownRows() const;
     const SortKeys* keysFor(const QModelIndex& sourceIndex);
     void filterInvalidated();
     void applyFilter();
+    textranks::Ranks placesOf(const std::vector<int>& order, std::size_t rowCount) const;
 
     // Selection.
     SelectionPolicy policy() { return {selectionModel, selectionMode}; }
@@ -137,8 +139,13 @@ struct SortFilterSelectModel::Pimpl
     };
     Keys keys;
     int keyScopes = 0;
+    const SortKeys* onlyKeys = nullptr; // not owned; during a sort of a flat source, whose rows have one parent
     std::optional<KeyScope> resetScope;
     bool sourceIsFlat = false;
-    std::vector<char> accepted; // what the filter said of the top-level rows, while it is being applied
+
+    // What the filter said of the top-level rows when it was applied last; by source row.
+    std::vector<char> accepted;
+    bool acceptedIsShown = false; // no row has come or gone since
+    bool isFiltering = false;     // the base class is to take what stands in `accepted`
 };
 } // namespace velm

@@ -175,7 +175,9 @@ void SortFilterSelectModel::Pimpl::sortBase(int baseColumn, Qt::SortOrder order)
                 *column,
                 0};
     }
+    onlyKeys = sourceIsFlat ? keys.keys.get() : nullptr;
     q->sort(baseColumn, order);
+    onlyKeys = nullptr;
 }
 
 std::optional<int> SortFilterSelectModel::Pimpl::sourceColumnOfBase(int baseColumn) const
@@ -186,17 +188,25 @@ std::optional<int> SortFilterSelectModel::Pimpl::sourceColumnOfBase(int baseColu
     return std::nullopt;
 }
 
-/// The top-level rows of the source that the table shows, in the source's order.
-std::vector<int> SortFilterSelectModel::Pimpl::shownRows() const
+/// The top-level rows of the source that the table shows, in its order.
+std::vector<int> SortFilterSelectModel::Pimpl::sourceRows() const
 {
     std::vector<int> rows(static_cast<std::size_t>(q->rowCount()));
-    if (q->rowCount() == q->sourceModel()->rowCount()) {
-        std::iota(rows.begin(), rows.end(), 0);
-        return rows;
-    }
     for (std::size_t row = 0; row < rows.size(); ++row)
         rows[row] = q->QSortFilterProxyModel::mapToSource(q->index(static_cast<int>(row), 0)).row();
-    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+/// The same in the source's order.
+std::vector<int> SortFilterSelectModel::Pimpl::shownRows() const
+{
+    if (q->rowCount() != q->sourceModel()->rowCount()) {
+        std::vector<int> rows = sourceRows();
+        std::sort(rows.begin(), rows.end());
+        return rows;
+    }
+    std::vector<int> rows(static_cast<std::size_t>(q->rowCount()));
+    std::iota(rows.begin(), rows.end(), 0);
     return rows;
 }
 
@@ -225,6 +235,8 @@ const SortKeys* SortFilterSelectModel::Pimpl::keysFor(const QModelIndex& sourceI
 bool SortFilterSelectModel::lessThan(const QModelIndex& left, const QModelIndex& right) const
 {
     Pimpl& p = *m_pimpl;
+    if (p.onlyKeys)
+        return p.onlyKeys->lessThan(left.row(), right.row());
     if (const SortKeys* keys = p.keysFor(left))
         return keys->lessThan(left.row(), right.row());
     if (p.sorter)
@@ -254,7 +266,7 @@ void SortFilterSelectModel::setFilter(RowFilter* filter)
 bool SortFilterSelectModel::filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const
 {
     Pimpl& p = *m_pimpl;
-    if (!p.accepted.empty() && !sourceParent.isValid() && static_cast<std::size_t>(sourceRow) < p.accepted.size())
+    if (p.isFiltering && !sourceParent.isValid() && static_cast<std::size_t>(sourceRow) < p.accepted.size())
         return p.accepted[static_cast<std::size_t>(sourceRow)];
     if (p.rowFilter)
         return p.rowFilter->rowFilter(sourceModel(), sourceRow, sourceParent);
@@ -274,48 +286,64 @@ void SortFilterSelectModel::Pimpl::filterInvalidated()
 void SortFilterSelectModel::Pimpl::applyFilter()
 {
     const KeyScope scope(*this);
-    accepted.clear();
-    const QAbstractItemModel* const source = q->sourceModel();
+    QAbstractItemModel* const source = q->sourceModel();
     const int rows = source ? source->rowCount() : 0;
     if (qint64(rows) * rows <= cheapRangeSteps || q->columnCount() == 0) {
         q->invalidateFilter();
         return;
     }
 
+    std::vector<char> before = std::exchange(accepted, {});
+    if (!acceptedIsShown) {
+        before.assign(static_cast<std::size_t>(rows), q->rowCount() == rows);
+        if (q->rowCount() != rows)
+            for (const int row : sourceRows())
+                before[static_cast<std::size_t>(row)] = true;
+    }
     std::vector<char> now(static_cast<std::size_t>(rows));
+    RowFilter* const filter = rowFilter;
     for (int row = 0; row < rows; ++row)
-        now[static_cast<std::size_t>(row)] = q->filterAcceptsRow(row, QModelIndex());
+        now[static_cast<std::size_t>(row)] =
+            filter ? filter->rowFilter(source, row, {}) : q->filterAcceptsRow(row, QModelIndex());
 
-    // The rows that stay keep their order, those that come stand behind them.
-    const auto notShown = static_cast<std::uint32_t>(rows);
-    textranks::Ranks places(now.size(), notShown);
     qint64 changedRanges = 0;
-    bool goes = false;
-    for (int row = 0; row < q->rowCount(); ++row) {
-        const auto sourceRow = static_cast<std::size_t>(q->QSortFilterProxyModel::mapToSource(q->index(row, 0)).row());
-        places[sourceRow] = static_cast<std::uint32_t>(row);
-        changedRanges += !now[sourceRow] && !goes;
-        goes = !now[sourceRow];
-    }
-    bool comes = false;
-    for (std::size_t row = 0; row < now.size(); ++row) {
-        const bool isNew = now[row] && places[row] == notShown;
-        changedRanges += isNew && !comes;
-        comes = isNew;
-    }
+    char last = 0;
+    const auto count = [&](std::size_t row) {
+        const char change = static_cast<char>(now[row] - before[row]);
+        changedRanges += change != 0 && change != last;
+        last = change;
+    };
+    const std::optional<int> sortedColumn = sourceColumnOfBase(q->QSortFilterProxyModel::sortColumn());
+    const std::vector<int> order = sortedColumn ? sourceRows() : std::vector<int>();
+    for (const int row : order)
+        count(static_cast<std::size_t>(row));
+    for (std::size_t row = 0; row < now.size(); ++row)
+        if (!sortedColumn || !before[row])
+            count(row);
 
     accepted = std::move(now);
+    isFiltering = true;
     if (changedRanges * rows <= cheapRangeSteps) {
         q->invalidateFilter();
     } else {
-        if (q->sortOrder() == Qt::DescendingOrder)
-            for (std::uint32_t& place : places)
-                place = notShown - place;
-        if (const auto column = sourceColumnOfBase(q->QSortFilterProxyModel::sortColumn()))
-            keys = {makeSortKeys(std::move(places)), {}, *column, 0};
+        if (sortedColumn)
+            keys = {makeSortKeys(placesOf(order, before.size())), {}, *sortedColumn, 0};
         q->invalidate();
         q->rowCount(); // filters and sorts, if nothing else asked for it
     }
-    accepted.clear();
+    isFiltering = false;
+    acceptedIsShown = true;
+}
+
+/// By source row the places of rows in this order, as the base class compares now; those of other rows behind them.
+textranks::Ranks SortFilterSelectModel::Pimpl::placesOf(const std::vector<int>& order, std::size_t rowCount) const
+{
+    const auto notShown = static_cast<std::uint32_t>(rowCount);
+    const bool isDescending = q->sortOrder() == Qt::DescendingOrder;
+    textranks::Ranks places(rowCount, isDescending ? 0 : notShown);
+    for (std::size_t place = 0; place < order.size(); ++place)
+        places[static_cast<std::size_t>(order[place])] =
+            static_cast<std::uint32_t>(isDescending ? notShown - place : place);
+    return places;
 }
 } // namespace velm

@@ -111,6 +111,9 @@ public:
         : m_cells(cells), m_size(cells.rows.empty() ? 0 : static_cast<std::size_t>(cells.rows.back()) + 1)
     {}
 
+    std::size_t count() const { return m_cells.rows.size(); }
+    QVariant value(std::size_t i) const { return m_cells.source->data(index(m_cells.rows[i]), m_cells.role); }
+
     std::vector<QVariant> values() const
     {
         std::vector<QVariant> result;
@@ -176,25 +179,24 @@ std::vector<char> notEmpty(const std::vector<QString>& texts)
 
 std::unique_ptr<SortKeys> integerKeys(const Maker& maker)
 {
-    const std::vector<QVariant> values = maker.values();
-    std::vector<int> numbers;
-    std::vector<char> present;
-    numbers.reserve(values.size());
-    present.reserve(values.size());
-    for (const QVariant& value : values) {
+    std::vector<int> numbers(maker.count());
+    std::vector<char> present(maker.count());
+    for (std::size_t i = 0; i < maker.count(); ++i) {
+        const QVariant value = maker.value(i);
         if (value.metaType().id() == QMetaType::Int) { // as its text would give
-            numbers.push_back(value.toInt());
-            present.push_back(true);
+            numbers[i] = value.toInt();
+            present[i] = true;
         } else {
             const wxString text = wxFromQt(value.toString());
-            numbers.push_back(leadingInteger(text));
-            present.push_back(!text.empty());
+            numbers[i] = leadingInteger(text);
+            present[i] = !text.empty();
         }
     }
     return maker.keys(std::move(numbers), std::move(present));
 }
 
-std::unique_ptr<SortKeys> doubleKeys(const Maker& maker)
+/// Where some texts are no numbers.
+std::unique_ptr<SortKeys> numberAndTextKeys(const Maker& maker)
 {
     struct Cell
     {
@@ -203,38 +205,41 @@ std::unique_ptr<SortKeys> doubleKeys(const Maker& maker)
         bool isNumber = false;
         std::uint32_t rank = 0; // among the texts
     };
-    const std::vector<QVariant> values = maker.values();
-    // The C locale may have another decimal point; numbers are then no numbers as texts.
-    const bool textsHavePoints = number(L"0.5").has_value();
-    std::vector<Cell> cells;
-    cells.reserve(values.size());
-    for (const QVariant& value : values) {
-        const int type = value.metaType().id();
-        if ((type == QMetaType::Double && textsHavePoints) || type == QMetaType::Int) {
-            cells.push_back({value.toDouble(), false, true, 0});
-        } else {
-            const wxString text = wxFromQt(value.toString());
-            const std::optional<double> found = number(text);
-            cells.push_back({found.value_or(0.0), text.empty(), found.has_value(), 0});
-        }
+    const std::vector<QString> texts = maker.texts();
+    const Ranks ranks = textranks::natural(texts);
+    std::vector<Cell> cells(texts.size());
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        const std::optional<double> found = number(wxFromQt(texts[i]));
+        cells[i] = {found.value_or(0.0), texts[i].isEmpty(), found.has_value(), ranks[i]};
     }
-    if (std::all_of(cells.begin(), cells.end(), [](const Cell& cell) { return cell.isEmpty || cell.isNumber; })) {
-        std::vector<double> numbers(cells.size());
-        std::vector<char> present(cells.size());
-        for (std::size_t i = 0; i < cells.size(); ++i) {
-            numbers[i] = cells[i].value;
-            present[i] = !cells[i].isEmpty;
-        }
-        return maker.keys(std::move(numbers), std::move(present));
-    }
-    const Ranks ranks = textranks::natural(maker.texts());
-    for (std::size_t i = 0; i < cells.size(); ++i)
-        cells[i].rank = ranks[i];
     return maker.recordKeys(std::move(cells), [](const Cell& left, const Cell& right) {
         if (left.isEmpty || right.isEmpty)
             return false;
         return left.isNumber && right.isNumber ? left.value < right.value : left.rank < right.rank;
     });
+}
+
+std::unique_ptr<SortKeys> doubleKeys(const Maker& maker)
+{
+    // The C locale may have another decimal point; numbers are then no numbers as texts.
+    const bool textsHavePoints = number(L"0.5").has_value();
+    std::vector<double> numbers(maker.count());
+    std::vector<char> present(maker.count(), true);
+    for (std::size_t i = 0; i < maker.count(); ++i) {
+        const QVariant value = maker.value(i);
+        const int type = value.metaType().id();
+        if ((type == QMetaType::Double && textsHavePoints) || type == QMetaType::Int) {
+            numbers[i] = value.toDouble();
+            continue;
+        }
+        const wxString text = wxFromQt(value.toString());
+        const std::optional<double> found = number(text);
+        if (!found && !text.empty())
+            return numberAndTextKeys(maker);
+        numbers[i] = found.value_or(0.0);
+        present[i] = !text.empty();
+    }
+    return maker.keys(std::move(numbers), std::move(present));
 }
 
 std::unique_ptr<SortKeys> fileSizeKeys(const Maker& maker)
@@ -333,53 +338,68 @@ std::unique_ptr<SortKeys> dimStyleKeys(const Maker& maker)
         notEmpty(texts));
 }
 
+/// Null when a value is of another kind.
 template <typename Get>
-std::unique_ptr<SortKeys> typedKeys(const Maker& maker, const std::vector<QVariant>& values, Get get)
+std::unique_ptr<SortKeys> typedKeys(const Maker& maker, Kind kind, Get get)
 {
-    std::vector<std::invoke_result_t<Get, const QVariant&>> keys;
-    std::vector<char> present;
-    keys.reserve(values.size());
-    present.reserve(values.size());
-    for (const QVariant& value : values) {
-        keys.push_back(get(value));
-        present.push_back(value.isValid());
-    }
-    return maker.keys<Absent::Last>(std::move(keys), std::move(present));
-}
-
-/// The one kind of all values that have one; nothing when they differ.
-std::optional<Kind> commonKind(const std::vector<QVariant>& values)
-{
-    Kind common = Kind::None;
-    for (const QVariant& value : values) {
-        const Kind kind = cellcomparison::kindOf(value);
-        if (kind == Kind::None || kind == common)
+    std::vector<std::invoke_result_t<Get, const QVariant&>> keys(maker.count());
+    std::vector<char> present(maker.count(), true);
+    for (std::size_t i = 0; i < maker.count(); ++i) {
+        const QVariant value = maker.value(i);
+        present[i] = value.isValid();
+        if (!present[i])
             continue;
-        if (common != Kind::None)
-            return std::nullopt;
-        common = kind;
+        if (cellcomparison::kindOf(value) != kind)
+            return nullptr;
+        keys[i] = get(value);
     }
-    return common;
+    if constexpr (std::is_same_v<std::invoke_result_t<Get, const QVariant&>, QString>)
+        return maker.keys<Absent::Last>(textranks::natural(keys), std::move(present));
+    else
+        return maker.keys<Absent::Last>(std::move(keys), std::move(present));
 }
 
-Ranks ranksOfTexts(const std::vector<QVariant>& values)
+std::unique_ptr<SortKeys> keysOfKind(const Maker& maker, Kind kind)
 {
-    std::vector<QString> texts(values.size());
-    std::transform(values.begin(), values.end(), texts.begin(), [](const QVariant& value) { return value.toString(); });
-    return textranks::natural(texts);
+    switch (kind) {
+    case Kind::Int:
+        return typedKeys(maker, kind, [](const QVariant& value) { return value.toInt(); });
+    case Kind::UInt:
+        return typedKeys(maker, kind, [](const QVariant& value) { return value.toUInt(); });
+    case Kind::LongLong:
+        return typedKeys(maker, kind, [](const QVariant& value) { return value.toLongLong(); });
+    case Kind::ULongLong:
+        return typedKeys(maker, kind, [](const QVariant& value) { return value.toULongLong(); });
+    case Kind::Double:
+        return typedKeys(maker, kind, [](const QVariant& value) { return value.toDouble(); });
+    case Kind::Float:
+        return typedKeys(maker, kind, [](const QVariant& value) { return value.toFloat(); });
+    case Kind::Char:
+        return typedKeys(maker, kind, [](const QVariant& value) { return value.toChar(); });
+    case Kind::Date:
+        return typedKeys(maker, kind, [](const QVariant& value) { return value.toDate(); });
+    case Kind::Time:
+        return typedKeys(maker, kind, [](const QVariant& value) { return value.toTime(); });
+    case Kind::DateTime:
+        return typedKeys(maker, kind, [](const QVariant& value) { return value.toDateTime(); });
+    case Kind::None:
+    case Kind::Text:
+        break;
+    }
+    return typedKeys(maker, kind, [](const QVariant& value) { return value.toString(); });
 }
 
-std::unique_ptr<SortKeys> mixedKeys(const Maker& maker, std::vector<QVariant> values)
+std::unique_ptr<SortKeys> mixedKeys(const Maker& maker)
 {
     struct Cell
     {
         QVariant value;
         std::uint32_t rank = 0; // among the texts
     };
-    const Ranks ranks = ranksOfTexts(values);
-    std::vector<Cell> cells(values.size());
-    for (std::size_t i = 0; i < values.size(); ++i)
-        cells[i] = {std::move(values[i]), ranks[i]};
+    const Ranks ranks = textranks::natural(maker.texts());
+    std::vector<Cell> cells(maker.count());
+    for (std::size_t i = 0; i < cells.size(); ++i)
+        cells[i] = {maker.value(i), ranks[i]};
     return maker.recordKeys(std::move(cells), [](const Cell& left, const Cell& right) {
         return cellcomparison::valuesLessThan(left.value, right.value, [&] { return left.rank < right.rank; });
     });
@@ -387,39 +407,11 @@ std::unique_ptr<SortKeys> mixedKeys(const Maker& maker, std::vector<QVariant> va
 
 std::unique_ptr<SortKeys> valueKeys(const Maker& maker)
 {
-    std::vector<QVariant> values = maker.values();
-    const std::optional<Kind> kind = commonKind(values);
-    if (!kind)
-        return mixedKeys(maker, std::move(values));
-    switch (*kind) {
-    case Kind::None:
-    case Kind::Int:
-        return typedKeys(maker, values, [](const QVariant& value) { return value.toInt(); });
-    case Kind::UInt:
-        return typedKeys(maker, values, [](const QVariant& value) { return value.toUInt(); });
-    case Kind::LongLong:
-        return typedKeys(maker, values, [](const QVariant& value) { return value.toLongLong(); });
-    case Kind::ULongLong:
-        return typedKeys(maker, values, [](const QVariant& value) { return value.toULongLong(); });
-    case Kind::Double:
-        return typedKeys(maker, values, [](const QVariant& value) { return value.toDouble(); });
-    case Kind::Float:
-        return typedKeys(maker, values, [](const QVariant& value) { return value.toFloat(); });
-    case Kind::Char:
-        return typedKeys(maker, values, [](const QVariant& value) { return value.toChar(); });
-    case Kind::Date:
-        return typedKeys(maker, values, [](const QVariant& value) { return value.toDate(); });
-    case Kind::Time:
-        return typedKeys(maker, values, [](const QVariant& value) { return value.toTime(); });
-    case Kind::DateTime:
-        return typedKeys(maker, values, [](const QVariant& value) { return value.toDateTime(); });
-    case Kind::Text:
-        break;
-    }
-    std::vector<char> present(values.size());
-    std::transform(values.begin(), values.end(), present.begin(),
-                   [](const QVariant& value) { return value.isValid(); });
-    return maker.keys<Absent::Last>(ranksOfTexts(values), std::move(present));
+    Kind first = Kind::None;
+    for (std::size_t i = 0; i < maker.count() && first == Kind::None; ++i)
+        first = cellcomparison::kindOf(maker.value(i));
+    std::unique_ptr<SortKeys> keys = keysOfKind(maker, first);
+    return keys ? std::move(keys) : mixedKeys(maker);
 }
 } // namespace
 

@@ -5,6 +5,7 @@
 #include <QtEndian>
 
 #include <algorithm>
+#include <bit>
 #include <cstring>
 #include <numeric>
 #include <string>
@@ -48,8 +49,11 @@ public:
             for (int shift = 35; shift >= 0; shift -= 7)
                 m_bytes.push_back(static_cast<char>(0x80 | (length >> shift & 0x7F)));
         }
-        for (; digits != end; ++digits)
-            m_bytes.push_back(static_cast<char>(*digits));
+        // Two digits a byte: runs of one length have their pairs at the same places.
+        if (length % 2)
+            m_bytes.push_back(static_cast<char>(1 + (*digits++ - u'0')));
+        for (; digits != end; digits += 2)
+            m_bytes.push_back(static_cast<char>(1 + 10 * (digits[0] - u'0') + (digits[1] - u'0')));
     }
 
     void endKey() { m_ends.push_back(m_bytes.size()); }
@@ -110,8 +114,16 @@ Ranks ranksOf(const Keys& keys, Tie tie)
         const auto last = items.begin() + static_cast<std::ptrdiff_t>(run.end);
         for (auto item = first; item != last; ++item)
             item->word = keys.word(item->key, run.depth);
+        // Bytes that all have in common tell nothing: the words begin behind them.
+        std::uint64_t difference = 0;
+        for (auto item = first; item != last; ++item)
+            difference |= item->word ^ first->word;
+        if (const int common = difference ? std::countl_zero(difference) / 8 : 0) {
+            runs.push_back({run.begin, run.end, run.depth + static_cast<std::size_t>(common)});
+            continue;
+        }
         const auto byWord = [](const Item& left, const Item& right) { return left.word < right.word; };
-        if (!std::is_sorted(first, last, byWord))
+        if (difference)
             std::sort(first, last, byWord);
         for (auto begin = first; begin != last;) {
             const auto end =
