@@ -79,9 +79,9 @@ Menu {
 
     function addRow(row: int, entry) {
         if (entry.kind === "separator") {
-            addItem(separator.createObject(null));
+            addItem(separator.createObject(contentItem));
         } else if (entry.kind === "title") {
-            addItem(caption.createObject(null, {text: entry.text}));
+            addItem(caption.createObject(contentItem, {text: entry.text}));
         } else if (entry.kind === "submenu") {
             // The type can't name itself.
             const menu = Qt.createComponent(Qt.resolvedUrl("ModelMenu.qml")).createObject(control, {
@@ -95,7 +95,7 @@ Menu {
             addMenu(menu);
             itemAt(row).entry = entry;
         } else {
-            const item = textItem.createObject(null, {entry: entry});
+            const item = textItem.createObject(contentItem, {entry: entry});
             addItem(item);
             item.triggered.connect(() => control.rootMenu.choose(control.indexOf(row)));
         }

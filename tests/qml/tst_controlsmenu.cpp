@@ -3,6 +3,7 @@
 #include "velm/models/panelmenumodel.h"
 #include "velm/models/rememberlastactionmenumodel.h"
 
+#include <QPointer>
 #include <QSignalSpy>
 
 using namespace velm;
@@ -65,6 +66,7 @@ private Q_SLOTS:
     void theMouseChoosesARow();
     void aRowShowsWhatTheModelSays();
     void aMenuIsReadEachTimeItOpens();
+    void theItemsOfAnOpenMenuAreNotCollected();
     void anOpenMenuFollowsItsModel();
     void aCommandMayRebuildTheMenu();
     void aSplitButtonRepeatsTheLastAction();
@@ -249,6 +251,22 @@ void TestControlsMenu::aMenuIsReadEachTimeItOpens()
     QCOMPARE(open.count(), 2);
     open.shown().press(Qt::Key_Return);
     QTRY_COMPARE(log.last(), QStringLiteral("Two"));
+}
+
+void TestControlsMenu::theItemsOfAnOpenMenuAreNotCollected()
+{
+    QStringList log;
+    MenuModel model;
+    MenuBuilder(&model).addItem(command("Copy", log)).addSeparator().addItem(command("Paste", log));
+    OpenMenu open(model);
+    QVERIFY(open.shown().isReady());
+    QTRY_VERIFY(open.isOpen());
+    const QPointer<QQuickItem> first = open.item(0);
+    const QPointer<QQuickItem> line = open.item(1);
+    qmlEngine(open.menu())->collectGarbage();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(first && line);
+    QCOMPARE(open.current(), QString("Copy"));
 }
 
 void TestControlsMenu::anOpenMenuFollowsItsModel()

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void aDrawingMayCloseUnderATextThatIsTyped();
     void aLayerIsHiddenByASwitch();
     void aLayerIsEditedInItsTable();
+    void aDimensionStyleIsEditedInItsTable();
     void aDoubleClickInTheTreeShowsTheBranch();
     void theTreeKeepsItsOpenRowsInANewEngine();
 
@@ -153,6 +154,19 @@ void PanelsTest::aLayerIsEditedInItsTable()
     m_driver.waitFor("the colour in the drawing",
                      [&] { return layer(L"Outside")->color() == OdCmColor::fromIndex(1); });
     QVERIFY(m_driver.ask([&] { return m_frame.layers().canRename(); }));
+}
+
+void PanelsTest::aDimensionStyleIsEditedInItsTable()
+{
+    m_driver.ask([&] { m_frame.showPanel("Dimension Styles"); });
+    m_driver.clickItem("dimStyles/Standard/textheight");
+    m_driver.clickItem("dimStyles/Standard/textheight");
+    m_driver.waitFor("the keyboard in the cell", [&] { return m_driver.itemHasFocus("editor"); });
+    m_driver.replaceText("2.5");
+    m_driver.key("Return");
+    m_driver.waitFor("the height in the drawing", [&] {
+        return m_frame.documents().current()->database()->findDimStyle(L"Standard")->dimtxt() == 2.5;
+    });
 }
 
 void PanelsTest::aDoubleClickInTheTreeShowsTheBranch()

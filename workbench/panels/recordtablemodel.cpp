@@ -58,12 +58,6 @@ OdDbSymbolTableRecord* RecordTableModel::record(int row) const
     return m_records[static_cast<std::size_t>(row)].open<OdDbSymbolTableRecord>();
 }
 
-int RecordTableModel::rowOf(OdDbObjectId record) const
-{
-    const auto found = std::ranges::find(m_records, record);
-    return found == m_records.end() ? -1 : static_cast<int>(found - m_records.begin());
-}
-
 bool RecordTableModel::isCheck(int column) const
 {
     return m_columns.columns[static_cast<std::size_t>(column)].type == static_cast<int>(CellKind::Check);

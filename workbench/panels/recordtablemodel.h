@@ -25,7 +25,6 @@ public:
     bool refresh();
     /// Null for a row that isn't there, and for a record that is gone.
     OdDbSymbolTableRecord* record(int row) const;
-    int rowOf(OdDbObjectId record) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
