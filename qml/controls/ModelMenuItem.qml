@@ -13,6 +13,7 @@ MenuItem {
     property bool markColumn: false
     property bool pictureColumn: false
 
+    objectName: "menu:" + text
     text: entry.text ?? ""
     enabled: entry.enabled ?? true
     checkable: entry.checkable ?? false

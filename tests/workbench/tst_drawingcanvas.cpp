@@ -82,6 +82,7 @@ private Q_SLOTS:
     void lineHasItsColourOnScreen_data();
     void lineHasItsColourOnScreen();
     void layerColourChangesWithARefresh();
+    void selectedEntitiesAreLitUpAndZoomedTo();
     void zoomKeepsThePointUnderTheCursor_data();
     void zoomKeepsThePointUnderTheCursor();
     void wheelAndMiddleButtonMoveTheView();
@@ -215,6 +216,35 @@ void DrawingCanvasTest::layerColourChangesWithARefresh()
     layer->setColor(OdCmColor::fromRGB(10, 200, 30));
     m_canvas->refreshDrawing();
     QVERIFY(waitUntil([&] { return pixel(m_canvas, size.x / 2, y) == wxColour(10, 200, 30); }));
+}
+
+void DrawingCanvasTest::selectedEntitiesAreLitUpAndZoomedTo()
+{
+    OdDbDatabase database;
+    std::vector<OdDbObjectId> lines;
+    for (const double y : {0.0, 30.0, 60.0})
+        lines.push_back(addLine(database, {0, y, 0}, {100, y, 0})->objectId());
+    m_canvas->accent = [] { return wxColour(0, 120, 215); };
+    m_canvas->setDatabase(&database);
+    const auto isLit = [this](double y) {
+        const wxPoint2DDouble place = m_canvas->view().toScreen(50, y);
+        return pixel(m_canvas, static_cast<int>(place.m_x), static_cast<int>(std::lround(place.m_y))) ==
+               wxColour(0, 120, 215);
+    };
+    m_canvas->setHighlighted({lines[2], lines[0]});
+    QVERIFY(waitUntil([&] { return isLit(0) && isLit(60); }));
+    QVERIFY(!isLit(30));
+    // The places of the entities stay when one is erased.
+    lines[0].openObject()->erase();
+    m_canvas->refreshDrawing();
+    QVERIFY(waitUntil([&] { return !isLit(0); }));
+    QVERIFY(isLit(60));
+    m_canvas->setHighlighted({});
+    QVERIFY(waitUntil([&] { return !isLit(60); }));
+    QVERIFY(m_canvas->zoomTo({lines[1], lines[2]}));
+    QVERIFY(isNear(m_canvas->view().center.y, 45.0, 0.01));
+    QVERIFY(!m_canvas->zoomTo({lines[0]}));
+    QVERIFY(!m_canvas->zoomTo({}));
 }
 
 void DrawingCanvasTest::zoomKeepsThePointUnderTheCursor_data()

@@ -10,16 +10,21 @@ namespace workbench {
 namespace {
 void eraseSelected(MainFrame& frame)
 {
-    auto* entity = frame.selection().current().open<OdDbEntity>();
-    if (!entity) {
+    std::vector<OdDbEntity*> entities;
+    for (const OdDbObjectId& id : frame.selection().entities())
+        if (auto* entity = id.open<OdDbEntity>())
+            entities.push_back(entity);
+    if (entities.empty()) {
         frame.commandLine().log(_("Nothing is selected. A click on the drawing selects."));
         return;
     }
-    const wxString kind = entityKind(*entity);
-    entity->erase();
+    const wxString erased =
+        entities.size() == 1 ? entityKind(*entities.front()) : wxString::Format(_("%zu entities"), entities.size());
+    for (OdDbEntity* entity : entities)
+        entity->erase();
     frame.selection().clear();
     frame.drawingChanged();
-    frame.commandLine().log(wxString::Format(_("Erased: %s"), kind));
+    frame.commandLine().log(wxString::Format(_("Erased: %s"), erased));
 }
 
 void setCurrentLayer(MainFrame& frame, const wxString& name)
@@ -50,7 +55,7 @@ void addDrawingCommands(Commands& commands, MainFrame& frame)
                  [&frame, log](const wxString& what) {
                      if (!what.IsSameAs("SELECTION", false))
                          frame.canvas().zoomExtents();
-                     else if (!frame.canvas().zoomTo(frame.selection().current()))
+                     else if (!frame.canvas().zoomTo(frame.selection().entities()))
                          log(_("Nothing that the canvas shows is selected."));
                  });
     commands.add("GRID", _("Shows or hides a grid on the drawing"), [&frame, log](const wxString&) {
@@ -66,6 +71,6 @@ void addDrawingCommands(Commands& commands, MainFrame& frame)
                  });
     commands.add("LAYER", _("Makes a layer the current one: LAYER name, or LAYER alone to tell which it is"),
                  [&frame](const wxString& name) { setCurrentLayer(frame, name); });
-    commands.add("ERASE", _("Erases the selected entity"), [&frame](const wxString&) { eraseSelected(frame); });
+    commands.add("ERASE", _("Erases what is selected"), [&frame](const wxString&) { eraseSelected(frame); });
 }
 } // namespace workbench

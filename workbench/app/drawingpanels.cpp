@@ -5,7 +5,7 @@
 namespace workbench {
 DrawingPanels::DrawingPanels(OdApDocManager& documents, Selection& selection)
     : structure(documents, selection), branch(*structure.tree(), selection), properties(documents),
-      m_selection(selection)
+      entities(documents, selection), m_selection(selection)
 {
     connect(&structure, &StructureController::currentIndexChanged, this, &DrawingPanels::showProperties);
     connect(&selection, &Selection::changed, this, &DrawingPanels::showProperties);
@@ -21,5 +21,6 @@ void DrawingPanels::refresh()
 {
     structure.refresh();
     properties.refresh();
+    entities.refresh();
 }
 } // namespace workbench

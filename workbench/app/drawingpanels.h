@@ -1,6 +1,7 @@
 #pragma once
 
 #include "panels/branchcontroller.h"
+#include "panels/entitiescontroller.h"
 #include "panels/propertiescontroller.h"
 #include "panels/structurecontroller.h"
 
@@ -16,6 +17,7 @@ public:
     StructureController structure;
     BranchController branch;
     PropertiesController properties;
+    EntitiesController entities;
 
     /// To call after a change of the drawing.
     void refresh();

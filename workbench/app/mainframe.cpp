@@ -31,6 +31,7 @@ namespace {
 constexpr int sideWidth = 340;
 constexpr int lowerHeight = 130;
 constexpr int lowerPanelsHeight = 290;
+constexpr int tablesHeight = 270;
 const OdString rectKey = L"MainWindow/Rectangle";
 const OdString maximizedKey = L"MainWindow/Maximized";
 
@@ -50,7 +51,7 @@ void placeSash(wxSplitterWindow& splitter, int size)
 } // namespace
 
 MainFrame::MainFrame(VelmSession& session, HostServices& services, PageGroup& pages)
-    : wxFrame(nullptr, wxID_ANY, "velm workbench", wxDefaultPosition, wxSize(1100, 720)), m_session(session),
+    : wxFrame(nullptr, wxID_ANY, "velm workbench", wxDefaultPosition, wxSize(1200, 820)), m_session(session),
       m_services(services), m_pages(pages), m_documents(services.documents(), services.dialogs(), pages),
       m_selection(services.documents()), m_layers(services.documents(), services.dialogs()),
       m_dimStyles(services.documents(), services.dialogs()), m_drawingInfo(services.documents()),
@@ -114,7 +115,9 @@ void MainFrame::build()
         new wxSplitterWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxSP_LIVE_UPDATE | wxSP_NOBORDER);
     m_lowerSplitter = new wxSplitterWindow(m_sideSplitter, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                                            wxSP_LIVE_UPDATE | wxSP_NOBORDER);
-    m_canvas = new DrawingCanvas(m_lowerSplitter);
+    m_tableSplitter = new wxSplitterWindow(m_lowerSplitter, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+                                           wxSP_LIVE_UPDATE | wxSP_NOBORDER);
+    m_canvas = new DrawingCanvas(m_tableSplitter);
     m_canvas->background = [] { return wxGuiColour(ut::EGuiColor::Grey0); };
     m_canvas->accent = [] { return wxGuiColour(ut::EGuiColor::BlueHighlight); };
     m_commandLine = new CommandLine(m_lowerSplitter);
@@ -127,7 +130,11 @@ void MainFrame::build()
     m_lowerPanels = new wxNotebook(m_panelSplitter, wxID_ANY);
     addPanel(m_lowerPanels, "Workbench/PropertiesPanel.qml", &properties(), _("Properties"));
     addPanel(m_lowerPanels, "Workbench/DrawingPanel.qml", &m_drawingInfo, _("Drawing"));
-    addPanel(m_lowerPanels, "Workbench/DimStylesPanel.qml", &m_dimStyles, _("Dimension Styles"));
+
+    m_tablePanels = new wxNotebook(m_tableSplitter, wxID_ANY);
+    addPanel(m_tablePanels, "Workbench/EntitiesPanel.qml", &entities(), _("Entities"));
+    addPanel(m_tablePanels, "Workbench/DimStylesPanel.qml", &m_dimStyles, _("Dimension Styles"));
+    addPanel(m_tablePanels, "Workbench/PartsPanel.qml", &m_parts, _("Million rows"));
 
     m_lowerSplitter->SetMinimumPaneSize(FromDIP(90));
     m_lowerSplitter->SetSashGravity(1.0);
@@ -137,10 +144,14 @@ void MainFrame::build()
     m_panelSplitter->SetSashGravity(1.0);
     m_sideSplitter->SplitVertically(m_lowerSplitter, m_panelSplitter);
     m_panelSplitter->SplitHorizontally(m_panels, m_lowerPanels);
-    m_lowerSplitter->SplitHorizontally(m_canvas, m_commandLine);
+    m_tableSplitter->SetMinimumPaneSize(FromDIP(120));
+    m_tableSplitter->SetSashGravity(1.0);
+    m_lowerSplitter->SplitHorizontally(m_tableSplitter, m_commandLine);
+    m_tableSplitter->SplitHorizontally(m_canvas, m_tablePanels);
     placeSash(*m_sideSplitter, FromDIP(sideWidth));
     placeSash(*m_lowerSplitter, FromDIP(lowerHeight));
     placeSash(*m_panelSplitter, FromDIP(lowerPanelsHeight));
+    placeSash(*m_tableSplitter, FromDIP(tablesHeight));
 
     addMenus(*this, frameActions(*this));
     for (PagePanel* page : m_pages.pages())
@@ -167,7 +178,7 @@ PagePanel* MainFrame::panel(int tab) const
 
 void MainFrame::showPanel(const wxString& title)
 {
-    for (wxNotebook* notebook : {m_panels, m_lowerPanels})
+    for (wxNotebook* notebook : {m_panels, m_lowerPanels, m_tablePanels})
         for (size_t tab = 0; tab < notebook->GetPageCount(); ++tab)
             if (notebook->GetPageText(tab) == title)
                 notebook->SetSelection(tab);
@@ -195,7 +206,7 @@ void MainFrame::connectCanvas()
         event.Skip();
     });
     QObject::connect(&m_selection, &Selection::changed, &m_selection,
-                     [this] { m_canvas->setHighlighted(m_selection.current()); });
+                     [this] { m_canvas->setHighlighted(m_selection.entities()); });
     m_canvas->onMenuWanted = [this] { m_contextMenu.open(); };
     m_canvasMenu.isGridShown = [this] { return m_canvas->isGridShown(); };
     m_canvasMenu.isSnapping = [this] { return m_canvas->isSnapping(); };
@@ -270,7 +281,9 @@ void MainFrame::applyColours()
     m_commandLine->setColours(wxGuiColour(ut::EGuiColor::Grey10), wxGuiColour(ut::EGuiColor::PanelBackground),
                               wxGuiColour(ut::EGuiColor::InputBackground));
     m_canvas->Refresh();
-    m_layers.setDarkBackground(m_session.theme() == ut::EGuiColorTheme::Dark);
+    const bool isDark = m_session.theme() == ut::EGuiColorTheme::Dark;
+    m_layers.setDarkBackground(isDark);
+    entities().setDarkBackground(isDark);
     wxStatusBar* bar = GetStatusBar();
     bar->SetBackgroundColour(wxGuiColour(ut::EGuiColor::PanelsetIconStripBase));
     bar->SetForegroundColour(wxGuiColour(ut::EGuiColor::Grey8));

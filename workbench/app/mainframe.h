@@ -10,6 +10,7 @@
 #include "panels/dimstylescontroller.h"
 #include "panels/drawinginfo.h"
 #include "panels/layerscontroller.h"
+#include "panels/partscontroller.h"
 
 #include <wx/frame.h>
 
@@ -25,7 +26,7 @@ class PageGroup;
 class PagePanel;
 class VelmSession;
 
-/// The program's window: menu, drawing, command line, and panels with pages at its side.
+/// The program's window: menu, drawing, command line, and panels with pages at its side and below the drawing.
 class MainFrame : public wxFrame, private OdApDocManagerReactor
 {
 public:
@@ -50,9 +51,13 @@ public:
     StructureController& structure() { return m_drawingPanels.structure; }
     BranchController& branch() { return m_drawingPanels.branch; }
     PropertiesController& properties() { return m_drawingPanels.properties; }
+    EntitiesController& entities() { return m_drawingPanels.entities; }
+    PartsController& parts() { return m_parts; }
     wxNotebook& panels() { return *m_panels; }
     /// Those below, which are seen beside the others.
     wxNotebook& lowerPanels() { return *m_lowerPanels; }
+    /// Those below the drawing, which are wide.
+    wxNotebook& tablePanels() { return *m_tablePanels; }
     /// The page of a tab.
     PagePanel* panel(int tab) const;
     /// Brings the tab of this title to the front.
@@ -83,6 +88,7 @@ private:
     DimStylesController m_dimStyles;
     DrawingInfo m_drawingInfo;
     DrawingPanels m_drawingPanels;
+    PartsController m_parts;
     Commands m_commands;
     CanvasMenu m_canvasMenu;
     ContextMenuPopup m_contextMenu;
@@ -91,8 +97,10 @@ private:
     CommandLine* m_commandLine = nullptr;
     wxNotebook* m_panels = nullptr;
     wxNotebook* m_lowerPanels = nullptr;
+    wxNotebook* m_tablePanels = nullptr;
     wxSplitterWindow* m_sideSplitter = nullptr;
     wxSplitterWindow* m_lowerSplitter = nullptr;
+    wxSplitterWindow* m_tableSplitter = nullptr;
     wxSplitterWindow* m_panelSplitter = nullptr;
     PagePanel* m_triedPage = nullptr;
 };

@@ -50,7 +50,7 @@ DrawingCanvas::~DrawingCanvas()
 void DrawingCanvas::setDatabase(OdDbDatabase* database)
 {
     m_database = database;
-    m_highlighted = OdDbObjectId::kNull;
+    m_highlighted.clear();
     refreshDrawing();
     zoomExtents();
 }
@@ -68,11 +68,29 @@ void DrawingCanvas::zoomExtents()
     Refresh();
 }
 
-bool DrawingCanvas::zoomTo(OdDbObjectId entity)
+/// Which entities of the model space these are; empty when none is.
+std::vector<bool> DrawingCanvas::places(const std::vector<OdDbObjectId>& entities) const
 {
+    std::vector<bool> result;
+    if (!m_database || entities.empty())
+        return result;
+    std::vector<OdDbObjectId> sorted = entities;
+    std::ranges::sort(sorted);
+    const OdArray<OdDbObjectId>& all = m_database->modelSpace()->entities();
+    for (unsigned int place = 0; place < all.size(); ++place)
+        if (std::ranges::binary_search(sorted, all[place])) {
+            result.resize(all.size());
+            result[place] = true;
+        }
+    return result;
+}
+
+bool DrawingCanvas::zoomTo(const std::vector<OdDbObjectId>& entities)
+{
+    const std::vector<bool> wanted = places(entities);
     Box box;
     for (const Piece& piece : m_tessellation.pieces)
-        if (m_database->modelSpace()->entities()[piece.entity] == entity)
+        if (piece.entity < wanted.size() && wanted[piece.entity])
             box.add(piece.box);
     if (box.isEmpty())
         return false;
@@ -130,9 +148,9 @@ OdDbObjectId DrawingCanvas::entityAt(wxPoint position) const
     return entity ? m_database->modelSpace()->entities()[*entity] : OdDbObjectId::kNull;
 }
 
-void DrawingCanvas::setHighlighted(OdDbObjectId entity)
+void DrawingCanvas::setHighlighted(const std::vector<OdDbObjectId>& entities)
 {
-    m_highlighted = entity;
+    m_highlighted = places(entities);
     Refresh();
 }
 
@@ -152,13 +170,9 @@ void DrawingCanvas::paint()
     if (m_isGridShown && m_database)
         paintGrid(*context, m_view, colour);
     m_drawnEntityCount = DrawingPainter(*context, m_view, colour).paint(m_tessellation);
-    if (m_database && !m_highlighted.isNull()) {
-        const OdArray<OdDbObjectId>& entities = m_database->modelSpace()->entities();
-        const auto number = std::ranges::find(entities, m_highlighted) - entities.begin();
+    if (!m_highlighted.empty())
         DrawingPainter(*context, m_view, colour)
-            .paintHighlight(m_tessellation, static_cast<std::uint32_t>(number),
-                            accent ? accent() : wxColour(0, 120, 215));
-    }
+            .paintHighlight(m_tessellation, m_highlighted, accent ? accent() : wxColour(0, 120, 215));
 }
 
 void DrawingCanvas::trackMouse(wxMouseEvent& event)

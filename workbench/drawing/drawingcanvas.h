@@ -24,16 +24,16 @@ public:
     void refreshDrawing();
 
     void zoomExtents();
-    /// False, with nothing changed, when nothing of the entity is drawn.
-    bool zoomTo(OdDbObjectId entity);
+    /// False, with nothing changed, when nothing of the entities is drawn.
+    bool zoomTo(const std::vector<OdDbObjectId>& entities);
     /// The point of the drawing at `center`, in pixels, stays where it is.
     void zoomBy(double factor, wxPoint center);
     void panBy(wxPoint pixels);
 
     /// The entity that is drawn nearest to a place, in pixels, or null when none is within a few pixels.
     OdDbObjectId entityAt(wxPoint position) const;
-    /// Shows one entity of the drawing as the selected one; null shows none.
-    void setHighlighted(OdDbObjectId entity);
+    /// Shows these entities of the drawing as the selected ones.
+    void setHighlighted(const std::vector<OdDbObjectId>& entities);
 
     /// A grid that follows the zoom.
     bool isGridShown() const { return m_isGridShown; }
@@ -50,11 +50,12 @@ public:
     std::function<void(OdDbObjectId)> onPicked;            ///< null: nothing is there
     std::function<void()> onMenuWanted;                    ///< the right button was released, after its picking
     std::function<wxColour()> background;                  ///< asked at each paint; without it the canvas is dark grey
-    std::function<wxColour()> accent;                      ///< the selected entity's, asked at each paint
+    std::function<wxColour()> accent;                      ///< the selected entities', asked at each paint
 
 private:
     void fit() { fit(m_tessellation.box); }
     void fit(const Box& box);
+    std::vector<bool> places(const std::vector<OdDbObjectId>& entities) const;
     void paint();
     void trackMouse(wxMouseEvent& event);
     void pickAt(wxPoint position);
@@ -62,7 +63,7 @@ private:
 
     OdDbDatabase* m_database = nullptr; // not owned
     Tessellation m_tessellation;
-    OdDbObjectId m_highlighted;
+    std::vector<bool> m_highlighted; // by the place in the model space; empty for none
     bool m_isGridShown = false;
     bool m_isSnapping = false;
     DrawingView m_view;

@@ -14,6 +14,7 @@ namespace {
 constexpr double margin = 16.0;  // pixels around the canvas within which lines are kept
 constexpr int longestPath = 300; // segments; the cost of a stroke grows faster than its length
 constexpr int mostSmoothPieces = 5000;
+constexpr int mostGlowingPieces = 1000;
 constexpr double shortestPattern = 6.0; // pixels
 constexpr double smallestText = 2.0;    // pixels
 constexpr double largestText = 4000.0;
@@ -167,14 +168,22 @@ std::size_t DrawingPainter::paint(const Tessellation& tessellation)
     return drawn;
 }
 
-void DrawingPainter::paintHighlight(const Tessellation& tessellation, std::uint32_t entity, const wxColour& colour)
+void DrawingPainter::paintHighlight(const Tessellation& tessellation, const std::vector<bool>& marked,
+                                    const wxColour& colour)
 {
     constexpr int glow = 6; // pixels
     const wxColour glowColour(colour.Red(), colour.Green(), colour.Blue(), 90);
     const Box visible = m_view.visible();
+    const auto isShown = [&](const Piece& piece) {
+        return piece.entity < marked.size() && marked[piece.entity] && piece.box.intersects(visible);
+    };
+    // Wide, clear lines cost even more than smooth ones.
+    const bool isMany = std::ranges::count_if(tessellation.pieces, isShown) > mostGlowingPieces;
+    if (isMany)
+        m_context.SetAntialiasMode(wxANTIALIAS_NONE);
     for (const bool isGlow : {true, false})
         for (const Piece& piece : tessellation.pieces) {
-            if (piece.entity != entity || !piece.box.intersects(visible))
+            if ((isGlow && isMany) || !isShown(piece))
                 continue;
             if (piece.text >= 0) {
                 if (!isGlow)

@@ -35,8 +35,8 @@ public:
 
     /// Gives the number of entities of which something was drawn.
     std::size_t paint(const Tessellation& tessellation);
-    /// Draws one entity again, in the colour and with a glow around its lines.
-    void paintHighlight(const Tessellation& tessellation, std::uint32_t entity, const wxColour& colour);
+    /// Draws the marked entities again, in the colour and, unless they are very many, with a glow around their lines.
+    void paintHighlight(const Tessellation& tessellation, const std::vector<bool>& marked, const wxColour& colour);
 
     /// The colour to draw with: index 7 is white on dark and black on light, and what would vanish in the background
     /// is moved away from it.

@@ -1,5 +1,7 @@
 #include "drawing/selection.h"
 
+#include <algorithm>
+
 namespace workbench {
 Selection::Selection(OdApDocManager& documents) : m_documents(documents)
 {
@@ -18,9 +20,17 @@ OdDbObjectId Selection::current() const
 
 void Selection::set(OdDbObjectId entity)
 {
-    if (entity == m_current)
+    set(entity.isNull() ? std::vector<OdDbObjectId>() : std::vector{entity}, entity);
+}
+
+void Selection::set(std::vector<OdDbObjectId> entities, OdDbObjectId current)
+{
+    if (std::ranges::find(entities, current) == entities.end())
+        current = entities.empty() ? OdDbObjectId::kNull : entities.front();
+    if (current == m_current && entities == m_entities)
         return;
-    m_current = entity;
+    m_entities = std::move(entities);
+    m_current = current;
     Q_EMIT changed();
 }
 

@@ -5,8 +5,11 @@
 
 #include <QObject>
 
+#include <vector>
+
 namespace workbench {
-/// The one entity that the canvas, the panels and the commands are about. Nothing is selected when the drawing goes.
+/// The entities that the canvas, the panels and the commands are about. One of them is current, for what is about one
+/// entity only. Nothing is selected when the drawing goes.
 class Selection : public QObject, private OdApDocManagerReactor
 {
     Q_OBJECT
@@ -15,9 +18,14 @@ public:
     explicit Selection(OdApDocManager& documents);
     ~Selection() override;
 
-    /// Null when nothing is selected, or when what was selected is erased.
+    /// Null when nothing is selected, or when what was current is erased.
     OdDbObjectId current() const;
+    /// May hold what was erased since.
+    const std::vector<OdDbObjectId>& entities() const { return m_entities; }
+    /// Selects one entity alone; null selects none.
     void set(OdDbObjectId entity);
+    /// Selects several. The current one is one of them; if it isn't, it is the first.
+    void set(std::vector<OdDbObjectId> entities, OdDbObjectId current);
     void clear() { set(OdDbObjectId::kNull); }
 
 Q_SIGNALS:
@@ -27,6 +35,7 @@ private:
     void documentBecameCurrent(OdApDocument* document) override;
 
     OdApDocManager& m_documents;
+    std::vector<OdDbObjectId> m_entities;
     OdDbObjectId m_current;
 };
 } // namespace workbench

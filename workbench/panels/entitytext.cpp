@@ -1,13 +1,11 @@
 #include "panels/entitytext.h"
 
+#include "drawing/entitygeometry.h"
 #include "drawing/entitykind.h"
 #include "od/oddbdatabase.h"
 #include "velm/bridge/conversions.h"
 
 #include <QCoreApplication>
-
-#include <cmath>
-#include <numbers>
 
 namespace workbench {
 namespace {
@@ -31,29 +29,6 @@ QString place(const OdDbEntity& entity, const OdGePoint3d& point)
     return QStringLiteral("%1, %2").arg(length(entity, point.x), length(entity, point.y));
 }
 
-/// Counter-clockwise from one angle to the other, above 0 up to a full turn.
-double sweep(double start, double end)
-{
-    constexpr double turn = 2 * std::numbers::pi;
-    const double angle = std::fmod(end - start, turn);
-    return angle > 0.0 ? angle : angle + turn;
-}
-
-double polylineLength(const OdDbPolyline& polyline)
-{
-    double sum = 0.0;
-    const std::size_t count = polyline.vertices.size();
-    for (std::size_t at = 0; at + (polyline.closed ? 0 : 1) < count; ++at) {
-        const OdDbPolyline::Vertex& from = polyline.vertices[at];
-        const double chord = (polyline.vertices[(at + 1) % count].point - from.point).length();
-        const double bulge = std::abs(from.bulge);
-        // Half the angle of the arc by the sine of it.
-        const double half = 2.0 * std::atan(bulge);
-        sum += bulge > 0.0 ? chord * half / std::sin(half) : chord;
-    }
-    return sum;
-}
-
 QString shortened(const QString& text)
 {
     constexpr int longest = 40;
@@ -69,14 +44,14 @@ std::vector<EntityMeasure> entityMeasures(const OdDbEntity& entity)
                 {Texts::tr("Start"), place(entity, line->startPoint)},
                 {Texts::tr("End"), place(entity, line->endPoint)}};
     if (const auto* polyline = dynamic_cast<const OdDbPolyline*>(&entity))
-        return {{Texts::tr("Length"), length(entity, polylineLength(*polyline))},
+        return {{Texts::tr("Length"), length(entity, *entityGeometry(*polyline).length)},
                 {Texts::tr("Points"), QString::number(polyline->vertices.size())},
                 {Texts::tr("Closed"), polyline->closed ? Texts::tr("Yes") : Texts::tr("No")}};
     if (const auto* circle = dynamic_cast<const OdDbCircle*>(&entity))
         return {{Texts::tr("Radius"), length(entity, circle->radius)},
                 {Texts::tr("Centre"), place(entity, circle->center)}};
     if (const auto* arc = dynamic_cast<const OdDbArc*>(&entity)) {
-        const double radians = sweep(arc->startAngle, arc->endAngle);
+        const double radians = sweep(*arc);
         return {{Texts::tr("Radius"), length(entity, arc->radius)},
                 {Texts::tr("Angle"), angle(entity, radians)},
                 {Texts::tr("Length"), length(entity, arc->radius * radians)},

@@ -25,21 +25,37 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
+#include <cmath>
 #include <exception>
 
 namespace workbench {
 namespace {
 constexpr int pollInterval = 20; // milliseconds
 
-QQuickItem* findBelow(QQuickItem* item, const QString& name)
+/// What is seen of an item in its window.
+QRectF visiblePart(const QQuickItem& item)
+{
+    QRectF part = item.mapRectToScene(QRectF(0, 0, item.width(), item.height()));
+    for (const QQuickItem* outer = item.parentItem(); outer; outer = outer->parentItem())
+        if (outer->clip())
+            part &= outer->mapRectToScene(QRectF(0, 0, outer->width(), outer->height()));
+    return part & QRectF(QPointF(), item.window()->size());
+}
+
+/// One that is scrolled out of sight goes to `hidden`, unless there is one already.
+QQuickItem* findBelow(QQuickItem* item, const QString& name, QQuickItem*& hidden)
 {
     if (!item || !item->isVisible())
         return nullptr;
-    if (item->objectName() == name)
-        return item;
+    if (item->objectName() == name) {
+        if (!visiblePart(*item).isEmpty())
+            return item;
+        if (!hidden)
+            hidden = item;
+    }
     // Rows of a list are children of the view only, not of the page's objects.
     for (QQuickItem* child : item->childItems())
-        if (QQuickItem* found = findBelow(child, name))
+        if (QQuickItem* found = findBelow(child, name, hidden))
             return found;
     return nullptr;
 }
@@ -58,6 +74,14 @@ QQuickItem* findCell(QQuickItem* item, const QAbstractItemModel& model, const QS
         if (QQuickItem* found = findCell(child, model, row, columnId))
             return found;
     return nullptr;
+}
+
+/// Whether two colours look the same.
+bool isClose(QRgb left, QRgb right)
+{
+    constexpr int most = 24;
+    return std::abs(qRed(left) - qRed(right)) < most && std::abs(qGreen(left) - qGreen(right)) < most &&
+           std::abs(qBlue(left) - qBlue(right)) < most;
 }
 
 void collectTexts(const wxWindow& window, QString& texts)
@@ -123,14 +147,15 @@ QQuickItem* Driver::findItem(const QString& name)
         const auto* model = table ? table->property("model").value<QAbstractItemModel*>() : nullptr;
         return model ? findCell(table, *model, parts[1], parts[2]) : nullptr;
     }
+    QQuickItem* hidden = nullptr;
     if (const PagePopup* open = popup())
-        if (QQuickItem* item = findBelow(open->view()->contentItem(), name))
+        if (QQuickItem* item = findBelow(open->view()->contentItem(), name, hidden))
             return item;
     for (PagePanel* page : m_app.pages().pages())
         if (page->IsShownOnScreen())
-            if (QQuickItem* item = findBelow(page->view()->contentItem(), name))
+            if (QQuickItem* item = findBelow(page->view()->contentItem(), name, hidden))
                 return item;
-    return nullptr;
+    return hidden;
 }
 
 QQuickItem* Driver::needItem(const QString& name)
@@ -168,7 +193,12 @@ bool Driver::itemHasFocus(const QString& name)
     });
 }
 
-void Driver::clickItem(const QString& name)
+void Driver::clickItem(const QString& name, int button, const QString& modifier)
+{
+    click(placeOfItem(name), button, modifier);
+}
+
+QPoint Driver::placeOfItem(const QString& name)
 {
     // Where it is now may not be where it stays: a page that was just made is laid out on its first frame.
     QPoint place;
@@ -176,16 +206,35 @@ void Driver::clickItem(const QString& name)
         const QQuickItem* item = findItem(name);
         if (!item || !item->isEnabled() || item->width() <= 0)
             return false;
-        const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
-        const QPoint now = originOf(*item->window()) + (centre * item->window()->devicePixelRatio()).toPoint();
+        const QRectF part = visiblePart(*item);
+        if (part.isEmpty())
+            return false;
+        const QPoint now = originOf(*item->window()) + (part.center() * item->window()->devicePixelRatio()).toPoint();
         return std::exchange(place, now) == now;
     });
-    click(place);
+    return place;
 }
 
-void Driver::click(QPoint screen, int button)
+void Driver::click(QPoint screen, int button, const QString& modifier)
 {
-    xdotool({"mousemove", QString::number(screen.x()), QString::number(screen.y()), "click", QString::number(button)});
+    QStringList arguments = {"mousemove", QString::number(screen.x()), QString::number(screen.y())};
+    const QStringList press = {"click", QString::number(button)};
+    arguments += modifier.isEmpty() ? press : QStringList{"keydown", modifier} + press + QStringList{"keyup", modifier};
+    xdotool(arguments);
+}
+
+void Driver::drag(QPoint from, QPoint to, const std::function<void()>& onTheWay)
+{
+    constexpr int steps = 8;
+    QStringList arguments = {"mousemove", QString::number(from.x()), QString::number(from.y()), "mousedown", "1"};
+    for (int step = 1; step <= steps; ++step) {
+        const QPoint place = from + (to - from) * step / steps;
+        arguments += {"mousemove", QString::number(place.x()), QString::number(place.y()), "sleep", "0.02"};
+    }
+    xdotool(arguments);
+    if (onTheWay)
+        onTheWay();
+    xdotool({"mouseup", "1"});
 }
 
 QRect Driver::rectOf(wxWindow& window)
@@ -318,6 +367,16 @@ bool Driver::savePicture(const QString& file)
     const wxRect frame = ask([&] { return m_app.frame() ? m_app.frame()->GetScreenRect() : wxRect(); });
     const QRect part = QRect(frame.x, frame.y, frame.width, frame.height).intersected(last.rect());
     return (part.isEmpty() ? last : last.copy(part)).save(file);
+}
+
+int Driver::countPixels(wxWindow& window, QRgb colour)
+{
+    const QImage part = picture().copy(rectOf(window)).convertToFormat(QImage::Format_RGB32);
+    int count = 0;
+    for (int y = 0; y < part.height(); ++y)
+        for (int x = 0; x < part.width(); ++x)
+            count += isClose(part.pixel(x, y), colour) ? 1 : 0;
+    return count;
 }
 
 void Driver::xdotool(const QStringList& arguments)

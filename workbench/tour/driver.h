@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QRect>
 #include <QRegion>
+#include <QRgb>
 #include <QString>
 #include <QStringList>
 
@@ -63,11 +64,16 @@ public:
     // shows in the first column, and the id of the column.
     bool hasItem(const QString& name);
     QVariant property(const QString& name, const char* property);
-    void clickItem(const QString& name);
+    void clickItem(const QString& name, int button = 1, const QString& modifier = {});
+    /// On the screen, the middle of what is seen of the item, once it stays there.
+    QPoint placeOfItem(const QString& name);
     /// Whether the item or what is in it has the keyboard.
     bool itemHasFocus(const QString& name);
 
-    void click(QPoint screen, int button = 1);
+    /// With a key of xdotool's name held, as "shift".
+    void click(QPoint screen, int button = 1, const QString& modifier = {});
+    /// Moves the mouse with the left button held. What is asked of `onTheWay` happens before the button is released.
+    void drag(QPoint from, QPoint to, const std::function<void()>& onTheWay = {});
     void click(wxWindow& window);
     /// The window's place on the screen, in pixels.
     QRect rectOf(wxWindow& window);
@@ -96,6 +102,8 @@ public:
     /// A picture of the whole screen, once the program has drawn what was asked of it.
     bool savePicture(const QString& file);
     QImage picture();
+    /// How many pixels of the window have about this colour.
+    int countPixels(wxWindow& window, QRgb colour);
 
 private:
     void invoke(const std::function<void()>& function);

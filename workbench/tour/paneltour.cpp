@@ -10,7 +10,6 @@
 #include "tour/driver.h"
 #include "velm/bridge/conversions.h"
 
-#include <QImage>
 #include <QVariant>
 
 #include <cmath>
@@ -18,14 +17,6 @@
 namespace workbench {
 namespace {
 using velm::PropertiesListModel;
-
-/// Whether two colours look the same.
-bool isClose(QRgb left, QRgb right)
-{
-    constexpr int most = 24;
-    return std::abs(qRed(left) - qRed(right)) < most && std::abs(qGreen(left) - qGreen(right)) < most &&
-           std::abs(qBlue(left) - qBlue(right)) < most;
-}
 } // namespace
 
 PanelTour::PanelTour(Driver& driver, std::function<void(const QString&)> save)
@@ -65,17 +56,6 @@ PanelTour::Spot PanelTour::findSpot()
     return spot;
 }
 
-int PanelTour::countPixels(QRgb colour)
-{
-    const QRect canvas = m_driver.rectOf(m_frame.canvas());
-    const QImage picture = m_driver.picture().copy(canvas).convertToFormat(QImage::Format_RGB32);
-    int count = 0;
-    for (int y = 0; y < picture.height(); ++y)
-        for (int x = 0; x < picture.width(); ++x)
-            count += isClose(picture.pixel(x, y), colour) ? 1 : 0;
-    return count;
-}
-
 void PanelTour::showStructure()
 {
     showPanel("Structure");
@@ -87,7 +67,8 @@ void PanelTour::showStructure()
         m_driver.key(key);
     m_driver.waitFor("an entity to be selected by its row", [&] { return !m_frame.selection().current().isNull(); });
     const QColor accent = m_driver.ask([] { return velm::toQt(wxGuiColour(ut::EGuiColor::BlueHighlight)); });
-    m_driver.waitFor("the entity to be lit up on the canvas", [&] { return countPixels(accent.rgb()) > 0; });
+    m_driver.waitFor("the entity to be lit up on the canvas",
+                     [&] { return m_driver.countPixels(m_frame.canvas(), accent.rgb()) > 0; });
 }
 
 void PanelTour::pickOnCanvas()
@@ -157,9 +138,10 @@ void PanelTour::editProperty()
     // Each edit has the tree filled anew.
     check(m_driver.property("structure", "count").toInt() == rows, "the rows of the tree are open as they were");
     // It shows once it isn't lit up any more.
-    const int before = countPixels(magenta);
+    const int before = m_driver.countPixels(m_frame.canvas(), magenta);
     m_driver.ask([&] { m_frame.selection().clear(); });
-    m_driver.waitFor("the colour on the canvas", [&] { return countPixels(magenta) > before; });
+    m_driver.waitFor("the colour on the canvas",
+                     [&] { return m_driver.countPixels(m_frame.canvas(), magenta) > before; });
     check(m_driver.hasItem("noProperties"), "no properties are shown without a selection");
 }
 

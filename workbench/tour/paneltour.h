@@ -3,7 +3,6 @@
 #include "od/oddbobjectid.h"
 
 #include <QPoint>
-#include <QRgb>
 #include <QString>
 
 #include <functional>
@@ -39,8 +38,6 @@ private:
     OdDbObjectId selected();
     /// A place on the screen where a click picks an entity that isn't selected.
     Spot findSpot();
-    /// How many pixels of the canvas have about this colour.
-    int countPixels(QRgb colour);
 
     Driver& m_driver;
     MainFrame& m_frame;

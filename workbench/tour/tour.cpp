@@ -9,6 +9,7 @@
 #include "od/oddbdatabase.h"
 #include "tour/driver.h"
 #include "tour/paneltour.h"
+#include "tour/tabletour.h"
 #include "velm/bridge/conversions.h"
 
 #include <QDir>
@@ -39,7 +40,8 @@ class Tour
 public:
     Tour(WorkbenchApp& app, const QString& folder)
         : m_driver(app), m_frame(*app.frame()), m_folder(folder),
-          m_panelTour(m_driver, [this](const QString& name) { save(name); })
+          m_panelTour(m_driver, [this](const QString& name) { save(name); }),
+          m_tableTour(m_driver, [this](const QString& name) { save(name); })
     {}
 
     int run(bool hasDrawing);
@@ -76,6 +78,7 @@ private:
     MainFrame& m_frame;
     QString m_folder;
     PanelTour m_panelTour;
+    TableTour m_tableTour;
     QTemporaryDir m_scratch;
     bool m_hasDrawing = false;
     int m_step = 0;
@@ -326,6 +329,7 @@ int Tour::run(bool hasDrawing)
     QDir().mkpath(m_folder);
     m_hasDrawing = hasDrawing;
     const auto panels = [this](void (PanelTour::*step)()) { return [this, step](Tour*) { (m_panelTour.*step)(); }; };
+    const auto tables = [this](void (TableTour::*step)()) { return [this, step](Tour*) { (m_tableTour.*step)(); }; };
     const std::pair<const char*, std::function<void(Tour*)>> steps[] = {
         {"open-drawing", &Tour::openDrawing},
         {"layers-panel", &Tour::switchLayer},
@@ -341,6 +345,14 @@ int Tour::run(bool hasDrawing)
         {"zoomed-to-selection", panels(&PanelTour::useSplitButton)},
         {"property-edited", panels(&PanelTour::editProperty)},
         {"branch-above", panels(&PanelTour::walkThroughBranches)},
+        {"entities", tables(&TableTour::showEntities)},
+        {"entities-sorted", tables(&TableTour::sortEntities)},
+        {"entities-selected", tables(&TableTour::selectRange)},
+        {"entities-searched", tables(&TableTour::searchEntities)},
+        {"columns-arranged", tables(&TableTour::arrangeColumns)},
+        {"million-rows", tables(&TableTour::fillMillionRows)},
+        {"million-rows-sorted", tables(&TableTour::sortMillionRows)},
+        {"million-rows-scrolled", tables(&TableTour::scrollMillionRows)},
         {"broken-page", &Tour::showBrokenPage},
         {"name-refused", &Tour::refuseName},
         {"name-accepted", &Tour::acceptName},
