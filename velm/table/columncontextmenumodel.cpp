@@ -106,9 +106,9 @@ void ColumnContextMenuModel::setSourceColumnVisible(int sourceColumn, bool visib
 
 void ColumnContextMenuModel::trigger(int actionIndex, int columnIndex)
 {
-    const int place = actionIndex - firstAction();
-    if (place < 0 || place >= static_cast<int>(m_actions.size()))
+    if (actionIndex < firstAction() || actionIndex >= rowCount())
         return;
+    const int place = actionIndex - firstAction();
     // On a copy: the action may change the menu.
     if (const auto handler = m_actions[static_cast<std::size_t>(place)].handler)
         handler(columnIndex);

@@ -106,6 +106,7 @@ void ColumnMap::remove(int first, int last)
 
 void ColumnMap::rebuild()
 {
+    m_isInSourceOrder = std::is_sorted(m_order.begin(), m_order.end());
     for (ColumnState& state : m_states)
         state.visible = false;
     for (std::size_t place = 0; place < m_order.size(); ++place) {

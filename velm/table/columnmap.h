@@ -37,6 +37,8 @@ public:
     int toProxy(int source) const;
     bool isVisible(int source) const;
     int hiddenBefore(int source) const;
+    /// The base class's own order.
+    bool isInSourceOrder() const { return m_isInSourceOrder; }
 
     /// Shows these source columns, each once, in this order, and no others.
     void setOrder(std::vector<int> order);
@@ -56,5 +58,6 @@ private:
 
     std::vector<ColumnState> m_states; // by source column
     std::vector<int> m_order;
+    bool m_isInSourceOrder = true;
 };
 } // namespace velm

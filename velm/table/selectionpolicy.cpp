@@ -20,8 +20,9 @@ void SelectionPolicy::makeCurrent(const QModelIndex& cell)
 
 void SelectionPolicy::leftClick(const QModelIndex& cell)
 {
+    const QPersistentModelIndex kept = cell; // what hears of the selection may change the rows
     m_selection.select(cell, command(QItemSelectionModel::ClearAndSelect));
-    makeCurrent(cell);
+    makeCurrent(kept);
 }
 
 void SelectionPolicy::rightClick(const QModelIndex& cell)
@@ -35,8 +36,9 @@ void SelectionPolicy::controlClick(const QModelIndex& cell)
     if (m_selection.isSelected(cell)) {
         m_selection.select(cell, command(QItemSelectionModel::Deselect));
     } else {
+        const QPersistentModelIndex kept = cell;
         m_selection.select(cell, command(QItemSelectionModel::Select));
-        makeCurrent(cell);
+        makeCurrent(kept);
     }
 }
 
@@ -47,10 +49,11 @@ QModelIndex SelectionPolicy::shiftStart() const
 
 void SelectionPolicy::shiftClick(const QModelIndex& cell)
 {
-    const QModelIndex start = shiftStart();
+    const QPersistentModelIndex start = shiftStart();
+    const QPersistentModelIndex end = cell;
     if (!m_selection.hasSelection())
         makeCurrent(cell);
-    m_selection.select(QItemSelection(start, cell), command(QItemSelectionModel::ClearAndSelect));
+    m_selection.select(QItemSelection(start, end), command(QItemSelectionModel::ClearAndSelect));
 }
 
 void SelectionPolicy::ensureSelected(const QModelIndex& cell)
@@ -123,8 +126,32 @@ QModelIndexList SelectionPolicy::selected() const
     return m_selection.selectedIndexes();
 }
 
-void SelectionPolicy::replace(const QItemSelection& selection)
+void SelectionPolicy::replace(QModelIndexList cells)
 {
-    m_selection.select(selection, command(QItemSelectionModel::ClearAndSelect));
+    // The selection model compares each range with each other; neighbours among many rows are one range.
+    constexpr int many = 500;
+    const bool joins = m_mode == Mode::Row && cells.size() > many;
+    if (joins)
+        std::sort(cells.begin(), cells.end(), [](const QModelIndex& left, const QModelIndex& right) {
+            const QModelIndex parents[] = {left.parent(), right.parent()};
+            return parents[0] == parents[1] ? left.row() < right.row() : parents[0] < parents[1];
+        });
+    QItemSelection selection;
+    for (auto first = cells.cbegin(); first != cells.cend();) {
+        auto last = first;
+        while (joins && std::next(last) != cells.cend() && std::next(last)->row() <= last->row() + 1 &&
+               std::next(last)->parent() == last->parent())
+            ++last;
+        const int width = joins ? model().columnCount(first->parent()) : 0;
+        selection.append(joins ? QItemSelectionRange(first->siblingAtColumn(0), last->siblingAtColumn(width - 1))
+                               : QItemSelectionRange(*first));
+        first = std::next(last);
+    }
+    if (joins) {
+        m_selection.clearSelection();
+        m_selection.select(selection, QItemSelectionModel::Select);
+    } else {
+        m_selection.select(selection, command(QItemSelectionModel::ClearAndSelect));
+    }
 }
 } // namespace velm

@@ -29,7 +29,7 @@ public:
     void selectPreviousRow();
     /// In the selection's own order: a row by its first column, a column by its first row.
     QModelIndexList selected() const;
-    void replace(const QItemSelection& selection);
+    void replace(QModelIndexList cells);
 
 private:
     QItemSelectionModel::SelectionFlags command(QItemSelectionModel::SelectionFlag flag) const;

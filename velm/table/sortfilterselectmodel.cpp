@@ -56,6 +56,7 @@ void SortFilterSelectModel::setSourceModel(QAbstractItemModel* source)
 {
     Pimpl& p = *m_pimpl;
     p.connectionKeeper = std::make_unique<QObject>();
+    const QPointer<QObject> keeper = p.connectionKeeper.get(); // goes when a slot below sets another source
     p.orderToRestore.reset();
     p.resetScope.reset();
     p.endForwarding();
@@ -64,6 +65,8 @@ void SortFilterSelectModel::setSourceModel(QAbstractItemModel* source)
     Q_EMIT proxySortColumnChanged();
     p.selectionModel.clear();
     Q_EMIT selectionChanged();
+    if (!keeper)
+        return;
     p.roleNames.clear();
     p.selectedRole = -1;
     p.cursor.roles().hovered = p.cursor.roles().preFocus = p.cursor.roles().focusCell = -1;
@@ -71,14 +74,17 @@ void SortFilterSelectModel::setSourceModel(QAbstractItemModel* source)
     p.cursor.forgetFocus();
 
     p.sourceIsFlat = qobject_cast<QAbstractTableModel*>(source) || qobject_cast<QAbstractListModel*>(source);
+    if (source && source == sourceModel())
+        QSortFilterProxyModel::setSourceModel(nullptr); // or the base class would keep its place among the connections
     if (source)
         p.connectBeforeBase(*source);
     {
         const Pimpl::KeyScope scope(p);
         QSortFilterProxyModel::setSourceModel(source);
-        if (QSortFilterProxyModel::sortColumn() >= 0)
-            rowCount(); // sorts
+        p.sortIfSorted();
     }
+    if (!keeper)
+        return;
     p.sortType = SortByValueType;
     if (!source)
         return;
@@ -95,15 +101,28 @@ void SortFilterSelectModel::setSourceModel(QAbstractItemModel* source)
 void SortFilterSelectModel::Pimpl::connectBeforeBase(QAbstractItemModel& source)
 {
     QObject* const keeper = connectionKeeper.get();
+    QObject::connect(&source, &QAbstractItemModel::rowsInserted, keeper, [this] { sourceRowsChanged(); });
+    QObject::connect(&source, &QAbstractItemModel::rowsRemoved, keeper, [this] { sourceRowsChanged(); });
+    QObject::connect(&source, &QAbstractItemModel::rowsMoved, keeper, [this] { sourceRowsChanged(); });
     QObject::connect(&source, &QAbstractItemModel::modelReset, keeper, [this] {
+        sourceRowsChanged();
         resetColumns(q->sourceModel());
         resetScope.emplace(*this);
     });
-    QObject::connect(&source, &QAbstractItemModel::layoutChanged, keeper, [this] { resetScope.emplace(*this); });
+    QObject::connect(&source, &QAbstractItemModel::layoutChanged, keeper, [this] {
+        sourceRowsChanged();
+        resetScope.emplace(*this);
+    });
+    QObject::connect(
+        &source, &QAbstractItemModel::columnsAboutToBeInserted, keeper,
+        [this](const QModelIndex& parent, int first, int last) { prepareInsertedColumns(parent, first, last); });
     QObject::connect(
         &source, &QAbstractItemModel::columnsAboutToBeRemoved, keeper,
         [this](const QModelIndex& parent, int first, int last) { saveRemovedColumns(parent, first, last); });
-    QObject::connect(&source, &QAbstractItemModel::dataChanged, keeper, [this] { beginForwarding(true); });
+    QObject::connect(&source, &QAbstractItemModel::dataChanged, keeper, [this] {
+        dropKeys();
+        beginForwarding(true);
+    });
     QObject::connect(&source, &QAbstractItemModel::headerDataChanged, keeper,
                      [this](Qt::Orientation orientation) { beginForwarding(orientation == Qt::Horizontal); });
 }
@@ -122,8 +141,7 @@ void SortFilterSelectModel::Pimpl::connectBehindBase(QAbstractItemModel& source)
     connectColumns(&QAbstractItemModel::columnsRemoved, &Pimpl::columnsRemoved);
     QObject::connect(&source, &QAbstractItemModel::modelReset, keeper, [this] { sourceReset(); });
     QObject::connect(&source, &QAbstractItemModel::layoutChanged, keeper, [this] {
-        if (q->QSortFilterProxyModel::sortColumn() >= 0)
-            q->rowCount(); // sorts
+        sortIfSorted();
         resetScope.reset();
     });
     QObject::connect(&source, &QAbstractItemModel::dataChanged, keeper,
@@ -175,8 +193,7 @@ const QHash<int, QByteArray>& SortFilterSelectModel::Pimpl::namedRoles()
 void SortFilterSelectModel::Pimpl::sourceReset()
 {
     q->invalidateFilter();
-    if (q->QSortFilterProxyModel::sortColumn() >= 0)
-        q->rowCount(); // sorts
+    sortIfSorted();
     resetScope.reset();
     sourceSortColumn = -1;
     Q_EMIT q->proxySortColumnChanged();
@@ -207,8 +224,8 @@ QModelIndex SortFilterSelectModel::mapFromSource(const QModelIndex& sourceIndex)
     if (!sourceIndex.isValid() || !sourceModel() || sourceIndex.model() != sourceModel())
         return {};
     const QModelIndex base = QSortFilterProxyModel::mapFromSource(sourceIndex);
-    if (!base.isValid())
-        return {};
+    if (!base.isValid() || m_pimpl->columns.isInSourceOrder())
+        return base;
     return createIndex(base.row(), m_pimpl->columns.toProxy(sourceIndex.column()), base.internalPointer());
 }
 
@@ -217,6 +234,8 @@ QModelIndex SortFilterSelectModel::mapToSource(const QModelIndex& proxyIndex) co
     if (!proxyIndex.isValid() || !sourceModel() || proxyIndex.model() != this)
         return {};
     const QModelIndex base = QSortFilterProxyModel::mapToSource(proxyIndex);
+    if (m_pimpl->columns.isInSourceOrder())
+        return base;
     if (!base.isValid() || proxyIndex.column() >= m_pimpl->columns.shownCount())
         return {};
     const int column = m_pimpl->columns.toSource(proxyIndex.column());
@@ -355,6 +374,7 @@ const SelectedCells& SortFilterSelectModel::Pimpl::cells()
 
 void SortFilterSelectModel::updateSelection(QItemSelection selected, QItemSelection deselected)
 {
+    m_pimpl->selectedCells.reset();
     const int lastColumn = columnCount() - 1;
     if (lastColumn < 0)
         return;
@@ -363,8 +383,10 @@ void SortFilterSelectModel::updateSelection(QItemSelection selected, QItemSelect
             if (!range.isValid() || range.model() != this)
                 continue;
             const QModelIndex parent = range.parent();
-            Q_EMIT dataChanged(index(range.top(), 0, parent), index(range.bottom(), lastColumn, parent),
-                               {m_pimpl->selectedRole});
+            const int last = std::min(lastColumn, columnCount(parent) - 1);
+            if (last >= 0)
+                Q_EMIT dataChanged(index(range.top(), 0, parent), index(range.bottom(), last, parent),
+                                   {m_pimpl->selectedRole});
         }
     }
     Q_EMIT selectionChanged();
@@ -478,13 +500,13 @@ QModelIndexList SortFilterSelectModel::selectedSources() const
 
 void SortFilterSelectModel::setSelectedSources(QModelIndexList selectedSources)
 {
-    QItemSelection selection;
+    QModelIndexList cells;
     for (const QModelIndex& source : selectedSources) {
         const QModelIndex index = mapFromSource(source);
         if (index.isValid())
-            selection.append(QItemSelectionRange(index));
+            cells.append(index);
     }
-    m_pimpl->policy().replace(selection);
+    m_pimpl->policy().replace(std::move(cells));
 }
 
 // Single cells.

@@ -5,6 +5,7 @@
 // what it tells of, and the persistent indexes that it moves, are the right ones.
 
 #include "velm/table/columns.h"
+#include "velm/table/keptselection.h"
 #include "velm/table/sortfilterselectmodel_p.h"
 
 #include <QSize>
@@ -25,62 +26,6 @@ std::vector<int> sorted(std::vector<int> columns)
     return columns;
 }
 
-/// Calls `use` with the first and last of each run of neighbours among proxy columns.
-void forEachRun(std::vector<int> places, auto use)
-{
-    std::sort(places.begin(), places.end());
-    for (auto first = places.begin(); first != places.end();) {
-        auto last = first;
-        while (std::next(last) != places.end() && *std::next(last) == *last + 1)
-            ++last;
-        use(*first, *last);
-        first = std::next(last);
-    }
-}
-
-/// A selection told by source columns, to be taken away before columns move and to be put back behind.
-class KeptSelection
-{
-public:
-    KeptSelection(SortFilterSelectModel& model, const ColumnMap& columns) : m_model(model), m_columns(columns)
-    {
-        for (const QItemSelectionRange& range : model.selectionModel()->selection()) {
-            Rows rows{range.parent(), range.top(), range.bottom(), {}};
-            for (int column = range.left(); column <= range.right(); ++column)
-                rows.sourceColumns.push_back(columns.toSource(column));
-            m_rows.push_back(std::move(rows));
-        }
-        model.selectionModel()->clearSelection();
-    }
-
-    void putBack() const
-    {
-        QItemSelection selection;
-        for (const Rows& rows : m_rows) {
-            std::vector<int> places;
-            for (const int source : rows.sourceColumns)
-                places.push_back(m_columns.toProxy(source));
-            forEachRun(places, [&](int first, int last) {
-                selection.append(QItemSelectionRange(m_model.index(rows.top, first, rows.parent),
-                                                     m_model.index(rows.bottom, last, rows.parent)));
-            });
-        }
-        m_model.selectionModel()->select(selection, QItemSelectionModel::Select);
-    }
-
-private:
-    struct Rows
-    {
-        QPersistentModelIndex parent;
-        int top;
-        int bottom;
-        std::vector<int> sourceColumns;
-    };
-
-    SortFilterSelectModel& m_model;
-    const ColumnMap& m_columns;
-    std::vector<Rows> m_rows;
-};
 } // namespace
 
 // What the source says of its columns.
@@ -119,11 +64,6 @@ void SortFilterSelectModel::Pimpl::resetColumns(const QAbstractItemModel* source
     columns.reset(std::move(states), std::move(order));
 }
 
-bool SortFilterSelectModel::Pimpl::isPermuted() const
-{
-    return !std::is_sorted(columns.order().begin(), columns.order().end());
-}
-
 bool SortFilterSelectModel::filterAcceptsColumn(int sourceColumn, const QModelIndex& /*sourceParent*/) const
 {
     return m_pimpl->columns.isVisible(sourceColumn);
@@ -154,6 +94,13 @@ void SortFilterSelectModel::Pimpl::reorder(std::vector<int> order)
     q->changePersistentIndexList(from, to);
     Q_EMIT q->layoutChanged({}, QAbstractItemModel::HorizontalSortHint);
     selection.putBack();
+}
+
+/// Until columns have come or gone.
+void SortFilterSelectModel::Pimpl::takeSourceOrder()
+{
+    orderToRestore = columns.order();
+    reorder(sorted(columns.order()));
 }
 
 /// Other columns, with their order; applies the filters.
@@ -257,9 +204,11 @@ void SortFilterSelectModel::showAllColumns()
 
 void SortFilterSelectModel::restoreColumnPositions()
 {
+    const Pimpl::KeyScope scope(*m_pimpl);
     beginResetModel();
     m_pimpl->columns.setOrder(sorted(m_pimpl->columns.order()));
     endResetModel();
+    m_pimpl->sortIfSorted();
     Q_EMIT proxySortColumnChanged();
 }
 
@@ -365,6 +314,12 @@ bool SortFilterSelectModel::Pimpl::isColumnRange(const QModelIndex& parent, int 
     return !parent.isValid() && first >= 0 && first <= columns.sourceCount() && first <= last;
 }
 
+void SortFilterSelectModel::Pimpl::prepareInsertedColumns(const QModelIndex& parent, int first, int last)
+{
+    if (isColumnRange(parent, first, last))
+        takeSourceOrder();
+}
+
 void SortFilterSelectModel::Pimpl::columnsAboutToBeInserted(const QModelIndex& parent, int first, int last)
 {
     if (!isColumnRange(parent, first, last))
@@ -380,6 +335,12 @@ void SortFilterSelectModel::Pimpl::columnsInserted(const QModelIndex& parent, in
     if (!isColumnRange(parent, first, last))
         return;
     std::vector<int> order = columns.order();
+    if (orderToRestore) {
+        order = *std::exchange(orderToRestore, std::nullopt);
+        for (int& column : order)
+            if (column >= first)
+                column += last - first + 1;
+    }
     for (int column = first; column <= last && column < columns.sourceCount(); ++column) {
         int width = headerWidth(column);
         bool visible = isHeaderVisible(column);
@@ -409,8 +370,7 @@ void SortFilterSelectModel::Pimpl::saveRemovedColumns(const QModelIndex& parent,
     for (int column = first; column <= last; ++column)
         if (const ColumnState* state = columns.state(column))
             columnpersistence::write(header(column, ColumnIdRole).toString(), *state, parentId);
-    orderToRestore = columns.order();
-    reorder(sorted(columns.order()));
+    takeSourceOrder();
 }
 
 void SortFilterSelectModel::Pimpl::columnsAboutToBeRemoved(const QModelIndex& parent, int first, int last)
@@ -444,7 +404,7 @@ void SortFilterSelectModel::Pimpl::columnsRemoved(const QModelIndex& parent, int
 void SortFilterSelectModel::Pimpl::beginForwarding(bool byColumn)
 {
     // With these two on, the base class may tell of rows and layout as well.
-    isForwarding = byColumn && isPermuted();
+    isForwarding = byColumn && !columns.isInSourceOrder();
     if (isForwarding && !q->dynamicSortFilter() && !q->isRecursiveFilteringEnabled())
         signalsWereBlocked = q->blockSignals(true);
     else
@@ -473,26 +433,31 @@ void SortFilterSelectModel::Pimpl::forwardDataChanged(const QModelIndex& topLeft
     const QModelIndex parent = topLeft.parent();
     if (!isShown(parent))
         return;
-    const int anyColumn = columns.toSource(0);
+    std::vector<int> places;
+    int anyColumn = -1;
+    for (int column = topLeft.column(); column <= bottomRight.column(); ++column) {
+        if (!columns.isVisible(column))
+            continue;
+        anyColumn = column;
+        places.push_back(columns.toProxy(column));
+    }
+    if (places.empty())
+        return;
     int top = std::numeric_limits<int>::max();
     int bottom = -1;
-    QModelIndex shown;
+    QPersistentModelIndex shown; // what hears of one range may change the rows before the next
     for (int row = topLeft.row(); row <= bottomRight.row(); ++row) {
         const QModelIndex cell = q->mapFromSource(q->sourceModel()->index(row, anyColumn, parent));
         if (!cell.isValid())
             continue;
-        shown = cell;
+        if (bottom < 0)
+            shown = cell;
         top = std::min(top, cell.row());
         bottom = std::max(bottom, cell.row());
     }
-    if (!shown.isValid())
-        return;
-    std::vector<int> places;
-    for (int column = topLeft.column(); column <= bottomRight.column(); ++column)
-        if (columns.isVisible(column))
-            places.push_back(columns.toProxy(column));
     forEachRun(std::move(places), [&](int first, int last) {
-        Q_EMIT q->dataChanged(shown.sibling(top, first), shown.sibling(bottom, last), roles);
+        if (shown.isValid())
+            Q_EMIT q->dataChanged(shown.sibling(top, first), shown.sibling(bottom, last), roles);
     });
 }
 

@@ -53,10 +53,11 @@ struct SortFilterSelectModel::Pimpl
     int headerProportionalWidth(int sourceColumn) const;
     bool isHeaderVisible(int sourceColumn) const;
     void resetColumns(const QAbstractItemModel* source);
-    bool isPermuted() const;
     void reorder(std::vector<int> order);
     void showColumns(std::vector<int> order);
     void selectWholeRows();
+    void takeSourceOrder();
+    void prepareInsertedColumns(const QModelIndex& parent, int first, int last);
     void columnsAboutToBeInserted(const QModelIndex& parent, int first, int last);
     void columnsInserted(const QModelIndex& parent, int first, int last);
     void saveRemovedColumns(const QModelIndex& parent, int first, int last);
@@ -73,6 +74,9 @@ struct SortFilterSelectModel::Pimpl
 
     // Sorting and filtering.
     void applyInitialSort(bool force);
+    void sortIfSorted();
+    void sourceRowsChanged();
+    void dropKeys();
     void sortBase(int baseColumn, Qt::SortOrder order);
     std::optional<int> sourceColumnOfBase(int baseColumn) const;
     std::vector<int> sourceRows() const;
@@ -110,7 +114,7 @@ struct SortFilterSelectModel::Pimpl
     QHash<int, QByteArray> sourceRoleNames; // those that roleNames was made from
     QHash<int, QByteArray> roleNames;
 
-    /// Between two signals of a source that removes columns: the order to come back to.
+    /// Between two signals of a source that inserts or removes columns: the order to come back to.
     std::optional<std::vector<int>> orderToRestore;
     bool isForwarding = false;
     bool signalsWereBlocked = false;

@@ -3,6 +3,7 @@
 
 #include "velm/table/cellcomparison.h"
 #include "velm/table/columns.h"
+#include "velm/table/keptselection.h"
 #include "velm/table/sortfilterselectmodel_p.h"
 
 #include <algorithm>
@@ -160,10 +161,32 @@ void SortFilterSelectModel::Pimpl::applyInitialSort(bool force)
         Q_EMIT q->hasInitialSortColumnChanged();
 }
 
+/// Lets the base class sort what it would sort when it is asked for the first row.
+void SortFilterSelectModel::Pimpl::sortIfSorted()
+{
+    if (q->QSortFilterProxyModel::sortColumn() >= 0)
+        q->rowCount();
+}
+
+/// What was computed for the rows as they were is of no use now.
+void SortFilterSelectModel::Pimpl::sourceRowsChanged()
+{
+    dropKeys();
+    acceptedIsShown = false;
+    isFiltering = false;
+}
+
+void SortFilterSelectModel::Pimpl::dropKeys()
+{
+    onlyKeys = nullptr;
+    keys = {};
+}
+
 /// A sort by a column of the base class's numbering, with the keys of all shown rows made before.
 void SortFilterSelectModel::Pimpl::sortBase(int baseColumn, Qt::SortOrder order)
 {
     const KeyScope scope(*this);
+    dropKeys();
     const std::optional<int> column = sourceColumnOfBase(baseColumn);
     if (column && !sorter) {
         const SortedCells cells{q->sourceModel(), {}, *column, q->sortRole(), shownRows()};
@@ -283,13 +306,14 @@ void SortFilterSelectModel::Pimpl::filterInvalidated()
         q->doSort(q->mapSourceColumnToProxy(sourceSortColumn), q->ascending(), true);
 }
 
-/// As invalidateFilter(), but with one change of the layout in place of the signals for very many ranges of rows.
+/// As invalidateFilter(), but with one change of the layout in place of the signals for very many ranges of rows. The
+/// branches of trees are taken to be small.
 void SortFilterSelectModel::Pimpl::applyFilter()
 {
     const KeyScope scope(*this);
     QAbstractItemModel* const source = q->sourceModel();
     const int rows = source ? source->rowCount() : 0;
-    if (qint64(rows) * rows <= cheapRangeSteps || q->columnCount() == 0) {
+    if (qint64(rows) * rows <= cheapRangeSteps || !sourceIsFlat || q->columnCount() == 0) {
         q->invalidateFilter();
         return;
     }
@@ -327,13 +351,17 @@ void SortFilterSelectModel::Pimpl::applyFilter()
     if (changedRanges * rows <= cheapRangeSteps) {
         q->invalidateFilter();
     } else {
+        // The selection model would keep the places of selected rows where all are selected, and tell nobody.
+        isFiltering = false;
+        const KeptRows selected(*q);
+        isFiltering = true;
         if (sortedColumn)
             keys = {makeSortKeys(placesOf(order, before.size())), {}, *sortedColumn, 0};
         q->invalidate();
         q->rowCount(); // filters and sorts, if nothing else asked for it
+        selected.putBack();
     }
-    isFiltering = false;
-    acceptedIsShown = true;
+    acceptedIsShown = std::exchange(isFiltering, false);
 }
 
 /// By source row the places of rows in this order, as the base class compares now; those of other rows behind them.

@@ -1,9 +1,10 @@
 #include "velm/table/sortkeys.h"
 
+#include "desktop/desktop.h"
 #include "od/odstring.h"
 #include "velm/bridge/conversions.h"
 #include "velm/bridge/externalfunctions.h"
-#include "velm/drawingprops/dimstylesorter.h"
+#include "velm/drawingprops/dimensiontypes.h"
 #include "velm/table/cellcomparison.h"
 #include "velm/table/cellvalues.h"
 #include "velm/table/columns.h"
@@ -11,6 +12,7 @@
 #include <QAbstractListModel>
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 
 namespace velm {
@@ -228,7 +230,9 @@ std::unique_ptr<SortKeys> doubleKeys(const Maker& maker)
     for (std::size_t i = 0; i < maker.count(); ++i) {
         const QVariant value = maker.value(i);
         const int type = value.metaType().id();
-        if ((type == QMetaType::Double && textsHavePoints) || type == QMetaType::Int) {
+        // A text of a number below the normal ones is none.
+        if (type == QMetaType::Int ||
+            (type == QMetaType::Double && textsHavePoints && std::fpclassify(value.toDouble()) != FP_SUBNORMAL)) {
             numbers[i] = value.toDouble();
             continue;
         }
@@ -329,13 +333,15 @@ std::unique_ptr<SortKeys> plotStyleKeys(const Maker& maker)
 std::unique_ptr<SortKeys> dimStyleKeys(const Maker& maker)
 {
     const std::vector<QString> texts = maker.texts();
-    std::vector<OdString> names(texts.size());
-    std::transform(texts.begin(), texts.end(), names.begin(), [](const QString& text) { return odFromQt(text); });
-    const DimstyleSorter sorter(currentDatabase());
-    return maker.keys(
-        textranks::by(names.size(),
-                      [&](std::uint32_t left, std::uint32_t right) { return sorter(names[left], names[right]); }),
-        notEmpty(texts));
+    std::vector<wxString> names(texts.size()); // as DimstyleSorter compares them
+    OdDbDatabase* const database = currentDatabase();
+    std::transform(texts.begin(), texts.end(), names.begin(),
+                   [database](const QString& text) { return toDisplayName(odFromQt(text).wide(), database); });
+    return maker.keys(textranks::by(names.size(),
+                                    [&](std::uint32_t left, std::uint32_t right) {
+                                        return _wcsicoll(names[left].wc_str(), names[right].wc_str()) < 0;
+                                    }),
+                      notEmpty(texts));
 }
 
 /// Null when a value is of another kind.
