@@ -100,10 +100,10 @@ void TableTour::searchEntities()
 
 void TableTour::arrangeColumns()
 {
-    m_driver.clickItem("header:Linetype", 3);
-    m_driver.placeOfItem("menu:Linetype");
+    m_driver.clickItem("header:Radius", 3);
+    m_driver.placeOfItem("menu:Radius");
     m_save("columns-to-choose");
-    m_driver.clickItem("menu:Linetype");
+    m_driver.clickItem("menu:Radius");
     m_driver.waitFor("a column less",
                      [&] { return m_frame.entities().table()->columnCount() == Entities::ColumnCount - 1; });
     const QString moved = title(2);
