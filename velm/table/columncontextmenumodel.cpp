@@ -37,7 +37,7 @@ int ColumnContextMenuModel::rowCount(const QModelIndex& parent) const
 QVariant ColumnContextMenuModel::data(const QModelIndex& index, int role) const
 {
     const QAbstractItemModel* source = m_tableModel.sourceModel();
-    if (!source || !checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+    if (!source || !index.isValid() || index.model() != this || index.row() >= rowCount())
         return {};
     const int row = index.row();
     if (row >= firstAction()) {

@@ -14,6 +14,11 @@ const ColumnState* ColumnMap::state(int source) const
     return source >= 0 && source < sourceCount() ? &m_states[static_cast<std::size_t>(source)] : nullptr;
 }
 
+const ColumnState* ColumnMap::shown(int proxy) const
+{
+    return proxy >= 0 && proxy < shownCount() ? state(toSource(proxy)) : nullptr;
+}
+
 int ColumnMap::toSource(int proxy) const
 {
     return proxy >= 0 && proxy < shownCount() ? m_order[static_cast<std::size_t>(proxy)] : proxy;

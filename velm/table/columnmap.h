@@ -29,6 +29,8 @@ public:
     int shownCount() const { return static_cast<int>(m_order.size()); }
     /// Null for a column that isn't there.
     const ColumnState* state(int source) const;
+    /// Of the column at a proxy column.
+    const ColumnState* shown(int proxy) const;
 
     /// A column that isn't there is given back unchanged.
     int toSource(int proxy) const;

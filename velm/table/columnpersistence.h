@@ -1,6 +1,7 @@
 #pragma once
 
 #include "velm/table/columnmap.h"
+#include "velm/velm_export.h"
 
 #include <QString>
 
@@ -17,10 +18,11 @@ struct SavedColumn
 };
 
 /// Nothing for an empty id. What isn't stored is taken from `header`, a stored width of 0 as well.
-std::optional<SavedColumn> read(const QString& columnId, const SavedColumn& header, const QString& dialogId);
+VELM_EXPORT std::optional<SavedColumn> read(const QString& columnId, const SavedColumn& header,
+                                            const QString& dialogId);
 
 /// A hidden column is stored with width 0.
-void write(const QString& columnId, const ColumnState& state, const QString& dialogId);
+VELM_EXPORT void write(const QString& columnId, const ColumnState& state, const QString& dialogId);
 
 struct NamedState
 {
@@ -29,5 +31,5 @@ struct NamedState
 };
 
 /// Stores the columns of a table. Positions step around the columns that are stored but aren't in the table.
-void writeAll(std::vector<NamedState> columns, const QString& dialogId);
+VELM_EXPORT void writeAll(std::vector<NamedState> columns, const QString& dialogId);
 } // namespace velm::columnpersistence

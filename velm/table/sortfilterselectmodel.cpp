@@ -64,6 +64,7 @@ void SortFilterSelectModel::setSourceModel(QAbstractItemModel* source)
     Q_EMIT proxySortColumnChanged();
     p.selectionModel.clear();
     Q_EMIT selectionChanged();
+    p.roleNames.clear();
     p.selectedRole = -1;
     p.cursor.roles().hovered = p.cursor.roles().preFocus = p.cursor.roles().focusCell = -1;
     p.cursor.forgetHover();

@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <limits>
 #include <numeric>
+#include <tuple>
 
 namespace velm {
 namespace {
@@ -171,6 +172,27 @@ void SortFilterSelectModel::Pimpl::showColumns(std::vector<int> order)
     for (int column = 0; column < columns.sourceCount(); ++column)
         if (!columns.isVisible(column))
             columns.setPosition(column, before.state(column)->position);
+    if (selectionMode == Row && columns.shownCount() > before.shownCount())
+        selectWholeRows();
+}
+
+/// A column that comes is no part of the ranges selected until then, but it is of their rows.
+void SortFilterSelectModel::Pimpl::selectWholeRows()
+{
+    using Rows = std::tuple<QModelIndex, int, int>;
+    std::vector<Rows> selected;
+    for (const QItemSelectionRange& range : selectionModel.selection())
+        selected.emplace_back(range.parent(), range.top(), range.bottom());
+    if (selected.empty())
+        return;
+    std::sort(selected.begin(), selected.end());
+    selected.erase(std::unique(selected.begin(), selected.end()), selected.end());
+    QItemSelection selection;
+    for (const auto& [parent, top, bottom] : selected)
+        selection.append(
+            QItemSelectionRange(q->index(top, 0, parent), q->index(bottom, q->columnCount(parent) - 1, parent)));
+    selectionModel.clearSelection();
+    selectionModel.select(selection, QItemSelectionModel::Select);
 }
 
 void SortFilterSelectModel::moveColumn(int from, int to)
@@ -256,13 +278,13 @@ void SortFilterSelectModel::setColumnWidth(int proxyColumn, int width)
 
 int SortFilterSelectModel::columnWidth(int proxyColumn) const
 {
-    const ColumnState* state = m_pimpl->columns.state(mapProxyColumnToSource(proxyColumn));
+    const ColumnState* state = m_pimpl->columns.shown(proxyColumn);
     return state ? state->width : defaultWidth;
 }
 
 int SortFilterSelectModel::columnProportionalWidth(int proxyColumn) const
 {
-    const ColumnState* state = m_pimpl->columns.state(mapProxyColumnToSource(proxyColumn));
+    const ColumnState* state = m_pimpl->columns.shown(proxyColumn);
     return state ? state->proportionalWidth : 0;
 }
 
@@ -436,12 +458,21 @@ bool SortFilterSelectModel::Pimpl::endForwarding()
     return std::exchange(isForwarding, false);
 }
 
+/// Whether children of a source row may be asked for. The base class would remember those of rows that aren't shown,
+/// and show them wrongly when the row comes back.
+bool SortFilterSelectModel::Pimpl::isShown(const QModelIndex& sourceRow) const
+{
+    return !sourceRow.isValid() || (isShown(sourceRow.parent()) && q->mapFromSource(sourceRow).isValid());
+}
+
 void SortFilterSelectModel::Pimpl::forwardDataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
                                                       const QList<int>& roles)
 {
     if (!topLeft.isValid() || !bottomRight.isValid())
         return;
     const QModelIndex parent = topLeft.parent();
+    if (!isShown(parent))
+        return;
     const int anyColumn = columns.toSource(0);
     int top = std::numeric_limits<int>::max();
     int bottom = -1;

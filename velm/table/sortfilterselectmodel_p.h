@@ -56,6 +56,7 @@ struct SortFilterSelectModel::Pimpl
     bool isPermuted() const;
     void reorder(std::vector<int> order);
     void showColumns(std::vector<int> order);
+    void selectWholeRows();
     void columnsAboutToBeInserted(const QModelIndex& parent, int first, int last);
     void columnsInserted(const QModelIndex& parent, int first, int last);
     void saveRemovedColumns(const QModelIndex& parent, int first, int last);
@@ -66,6 +67,7 @@ struct SortFilterSelectModel::Pimpl
     /// Keeps the base class from telling of changed cells and headers at the places where they'd be without the order.
     void beginForwarding(bool byColumn);
     bool endForwarding();
+    bool isShown(const QModelIndex& sourceRow) const;
     void forwardDataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight, const QList<int>& roles);
     void forwardHeaderDataChanged(Qt::Orientation orientation, int first, int last);
 

@@ -213,7 +213,8 @@ std::vector<int> SortFilterSelectModel::Pimpl::shownRows() const
 /// The keys for the siblings of an index, or null while comparisons without them are cheaper.
 const SortKeys* SortFilterSelectModel::Pimpl::keysFor(const QModelIndex& sourceIndex)
 {
-    if (keyScopes == 0)
+    // The base class also compares cells of a column that a new source no longer has.
+    if (keyScopes == 0 || !sourceIndex.isValid())
         return nullptr;
     const QModelIndex parent = sourceIsFlat ? QModelIndex() : sourceIndex.parent();
     if (sourceIndex.column() != keys.column || parent != keys.parent)

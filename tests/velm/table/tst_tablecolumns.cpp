@@ -1,0 +1,380 @@
+#include "velm/table/sortfilterselectmodel.h"
+
+#include "sourcetable.h"
+
+#include "support/scopes.h"
+#include "support/signallog.h"
+
+#include <QAbstractItemModelTester>
+#include <QTest>
+
+#include <limits>
+#include <optional>
+
+using namespace velm;
+using namespace velmtest;
+
+namespace {
+const QString sample = QStringLiteral("a1 b1 c1 d1|a2 b2 c2 d2");
+
+/// A column that isn't shown at first.
+ColumnData hidden(ColumnData column)
+{
+    column.initiallyVisible = false;
+    return column;
+}
+} // namespace
+
+class TestTableColumns : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init()
+    {
+        m_store.emplace();
+        m_source.emplace("ABCD", sample);
+        m_table.emplace();
+        m_tester.emplace(&*m_table, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        m_table->setSourceModel(&*m_source);
+    }
+    void cleanup()
+    {
+        m_tester.reset();
+        m_table.reset();
+        m_source.reset();
+        m_store.reset();
+    }
+
+    void columnsMove_data()
+    {
+        QTest::addColumn<int>("from");
+        QTest::addColumn<int>("to");
+        QTest::addColumn<QString>("columns");
+        QTest::addColumn<QString>("signalText");
+        const auto row = [](const char* name, int from, int to, const char* columns, const char* destination) {
+            const QString move = QString("(-, %1, %1, -, %2)").arg(from).arg(destination);
+            QTest::newRow(name) << from << to << columns
+                                << "columnsAboutToBeMoved" + move + " columnsMoved" + move + " proxySortColumnChanged";
+        };
+        row("to the right", 0, 2, "BCAD", "3");
+        row("to the left", 2, 0, "CABD", "0");
+        row("to the end", 1, 3, "ACDB", "4");
+        row("by one", 1, 2, "ACBD", "3");
+    }
+    void columnsMove()
+    {
+        QFETCH(int, from);
+        QFETCH(int, to);
+        m_table->selectionModel()->setCurrentIndex(m_table->index(1, 1), QItemSelectionModel::Current);
+        SignalLog log(*m_table);
+        m_table->moveColumn(from, to);
+        QTEST(log.take(), "signalText");
+        QTEST(columnText(*m_table), "columns");
+        QCOMPARE(cellText(*m_table).remove('1').section('|', 0, 0).remove(' ').toUpper(), columnText(*m_table));
+        QCOMPARE(m_table->selectionModel()->currentIndex().data(), QVariant("b2"));
+        m_table->moveColumn(to, from);
+        QCOMPARE(cellText(*m_table), sample);
+    }
+
+    void aMoveThatIsNoneSaysSo()
+    {
+        SignalLog log(*m_table);
+        m_table->moveColumn(1, 1);
+        m_table->moveColumn(-1, -1);
+        for (const int bad : {-1, 4, 99}) {
+            QTest::ignoreMessage(QtDebugMsg, qPrintable(QString("move from column, %1 , is not valid").arg(bad)));
+            m_table->moveColumn(bad, 0);
+            QTest::ignoreMessage(QtDebugMsg, qPrintable(QString("move to column, %1 , is not valid").arg(bad)));
+            m_table->moveColumn(0, bad);
+        }
+        QCOMPARE(log.take(), "");
+    }
+
+    void theLastColumnCantBeHidden()
+    {
+        for (int column = 0; column < 3; ++column)
+            m_table->setSourceColumnVisible(column, false);
+        SignalLog log(*m_table);
+        m_table->setSourceColumnVisible(3, false);
+        m_table->setSourceColumnVisible(0, false); // nor can one that is hidden already be told of
+        QCOMPARE(log.take(), "");
+        QCOMPARE(columnText(*m_table), "D");
+        for (const int bad : {-1, 4, 99}) {
+            m_table->setSourceColumnVisible(bad, true);
+            m_table->setSourceColumnVisible(bad, false);
+        }
+        QCOMPARE(log.take(), "");
+        m_table->setSourceColumnVisible(3, true); // told also when nothing changes
+        QCOMPARE(log.take(), "proxySortColumnChanged");
+    }
+
+    void aColumnComesBackWhereItWas()
+    {
+        m_table->moveColumn(3, 0); // D A B C
+        m_table->setSourceColumnVisible(0, false);
+        QCOMPARE(columnText(*m_table), "DBC");
+        QVERIFY(!m_table->isSourceColumnVisible(0));
+        m_table->setSourceColumnVisible(0, true);
+        QCOMPARE(columnText(*m_table), "DABC");
+        m_table->setSourceColumnVisible(2, false); // was at 3
+        m_table->setSourceColumnVisible(3, false);
+        m_table->setSourceColumnVisible(1, false);
+        m_table->setSourceColumnVisible(2, true); // 3 is no place any more
+        QCOMPARE(columnText(*m_table), "AC");
+        SignalLog log(*m_table);
+        m_table->showAllColumns();
+        QCOMPARE(cellText(*m_table), "d1 a1 b1 c1|d2 a2 b2 c2");
+        QVERIFY(log.take().endsWith("proxySortColumnChanged"));
+        m_table->showAllColumns();
+        QCOMPARE(log.take(), "proxySortColumnChanged");
+    }
+
+    void positionsAreRestoredByAReset()
+    {
+        m_table->moveColumn(3, 0);
+        m_table->moveColumn(2, 1);
+        m_table->setSourceColumnVisible(2, false);
+        QCOMPARE(columnText(*m_table), "DBA");
+        SignalLog log(*m_table);
+        m_table->restoreColumnPositions();
+        QCOMPARE(log.take(), "modelAboutToBeReset modelReset proxySortColumnChanged");
+        QCOMPARE(columnText(*m_table), "ABD");
+        QCOMPARE(cellText(*m_table), "a1 b1 d1|a2 b2 d2");
+    }
+
+    void widths()
+    {
+        SignalLog log(*m_table);
+        (*m_source)[0].proportionalSize = 2;
+        (*m_source)[1].proportionalSize = -3;
+        (*m_source)[2].sizeHint = {55, 0};
+        (*m_source)[3].sizeHint = {0, 9};
+        m_source->reset();
+        m_table->moveColumn(0, 2); // B C A D
+        log.take();
+        const auto all = [&] {
+            QStringList result;
+            for (int column = 0; column < m_table->columnCount(); ++column)
+                result +=
+                    QString("%1/%2").arg(m_table->columnWidth(column)).arg(m_table->columnProportionalWidth(column));
+            return result.join(' ');
+        };
+        QCOMPARE(all(), "100/0 55/0 100/2 100/0");
+        m_table->resizeColumn(2, -20); // taken as it is
+        m_table->setColumnWidth(3, -20);
+        m_table->setColumnWidth(1, 0);
+        for (const int bad : {-1, 4, 99}) {
+            m_table->resizeColumn(bad, 1);
+            QCOMPARE(m_table->columnWidth(bad), 100);
+            QCOMPARE(m_table->columnProportionalWidth(bad), 0);
+        }
+        QCOMPARE(all(), "100/0 0/0 -20/2 100/0");
+        QCOMPARE(m_table->naturalWidth(), 180);
+        QCOMPARE(m_table->proportionalWidth(), 2);
+        m_table->setSourceColumnVisible(0, false);
+        QCOMPARE(m_table->naturalWidth(), 200);
+        QCOMPARE(m_table->proportionalWidth(), 0);
+        QVERIFY(!log.take().contains("data"));
+        QCOMPARE(SortFilterSelectModel().naturalWidth() + SortFilterSelectModel().proportionalWidth(), 0);
+    }
+
+    void initialVisibilityIsABool_data()
+    {
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<QString>("columns");
+        QTest::newRow("false hides") << QVariant(false) << "ACD";
+        QTest::newRow("true") << QVariant(true) << "ABCD";
+        QTest::newRow("a 0 is no bool") << QVariant(0) << "ABCD";
+        QTest::newRow("a text neither") << QVariant("false") << "ABCD";
+        QTest::newRow("nothing") << QVariant() << "ABCD";
+    }
+    void initialVisibilityIsABool()
+    {
+        QFETCH(QVariant, value);
+        m_source->headers[{1, ColumnInitiallyVisibleRole}] = value;
+        m_source->reset();
+        QTEST(columnText(*m_table), "columns");
+    }
+
+    void columnsComeAndGo_data()
+    {
+        QTest::addColumn<int>("sorted"); // the source column
+        QTest::addColumn<int>("first");
+        QTest::addColumn<int>("count");
+        QTest::addColumn<int>("behindInsert");
+        QTest::addColumn<int>("behindRemove");
+        // Exact for one column only.
+        QTest::newRow("one before") << 2 << 1 << 1 << 3 << 1;
+        QTest::newRow("one in its place") << 2 << 2 << 1 << 3 << -1;
+        QTest::newRow("one behind") << 1 << 2 << 1 << 1 << 1;
+        QTest::newRow("two before") << 3 << 1 << 2 << 3 << 3;
+        QTest::newRow("two at the beginning") << 3 << 0 << 2 << 3 << 3;
+        QTest::newRow("two with it among them") << 2 << 1 << 2 << 2 << -1;
+        QTest::newRow("three before") << 3 << 0 << 3 << 2 << 4;
+    }
+    void columnsComeAndGo()
+    {
+        QFETCH(int, sorted);
+        QFETCH(int, first);
+        QFETCH(int, count);
+        std::vector<ColumnData> added;
+        for (int i = 0; i < count; ++i)
+            added.push_back(SourceTable::column(QChar(u'X' + i)));
+        m_table->doSort(sorted, true);
+        SignalLog log(*m_table);
+        m_source->insertColumns(first, added);
+        QVERIFY(log.take().endsWith("proxySortColumnChanged"));
+        QTEST(m_table->proxySortColumn(), "behindInsert");
+        QCOMPARE(columnText(*m_table), QString("ABCD").insert(first, QString("XYZ").left(count)));
+
+        m_table->unSort();
+        m_source->removeColumns(first, first + count - 1);
+        QCOMPARE(m_table->proxySortColumn(), -1);
+        m_table->doSort(sorted, true);
+        log.take();
+        m_source->removeColumns(first, first + count - 1);
+        QVERIFY(log.take().endsWith("proxySortColumnChanged"));
+        QTEST(m_table->proxySortColumn(), "behindRemove");
+        QCOMPARE(columnText(*m_table), QString("ABCD").remove(first, count));
+    }
+
+    void insertedColumnsStandBehindTheShownOnesBefore()
+    {
+        m_table->moveColumn(3, 0);
+        m_table->setSourceColumnVisible(0, false); // D B C
+        m_table->resizeColumn(1, 33);
+        m_table->increasePreFocusIndexColumn();
+        ColumnData wide = SourceTable::column('X');
+        wide.sizeHint = {70, 0};
+        m_source->insertColumns(2, {wide, hidden(SourceTable::column('Y')), SourceTable::column('Z')});
+        QCOMPARE(columnText(*m_table), "DXBZC");
+        QCOMPARE(m_table->columnWidth(1), 70);
+        QVERIFY(!m_table->hasPreFocus());
+        QCOMPARE(cellText(*m_table).section('|', 1).left(5), "d2 x2");
+        m_table->showAllColumns();
+        QCOMPARE(m_table->columnCount(), 7);
+        m_source->insertColumns(7, {SourceTable::column('E')});
+        QCOMPARE(columnText(*m_table).right(1), "E");
+    }
+
+    void removedColumnsAreSavedAndComeBackAsTheyWere()
+    {
+        m_table->setParentId("Layers");
+        m_table->moveColumn(1, 3); // A C D B
+        m_table->resizeColumn(3, 42);
+        m_table->setSourceColumnVisible(2, false); // A D B
+        m_source->removeColumns(1, 2);
+        QCOMPARE(columnText(*m_table), "AD");
+        bool isHidden = false;
+        long position = 0;
+        QCOMPARE(readColumnDataFromRegistry("B", 1, 0, isHidden, position, "Layers"), 42L);
+        QCOMPARE(position, 2L);
+        QVERIFY(!isHidden);
+        QCOMPARE(readColumnDataFromRegistry("C", 1, 0, isHidden, position, "Layers"), 0L);
+        QCOMPARE(position, 1L);
+        QVERIFY(isHidden);
+        QCOMPARE(getSavedColumnDataList("Layers").size(), std::size_t(2)); // and no others
+        m_source->insertColumns(1, {SourceTable::column('B'), SourceTable::column('C')});
+        QCOMPARE(columnText(*m_table), "ADB");
+        QCOMPARE(m_table->columnWidth(2), 42);
+        // Stored nonsense is held within the table.
+        for (const int nonsense : {-7, std::numeric_limits<int>::max()}) {
+            writeColumnDataToRegistry("X", 10, nonsense, "Layers");
+            m_source->insertColumns(0, {SourceTable::column('X')});
+            QCOMPARE(columnText(*m_table), nonsense < 0 ? "XADB" : "ADBX");
+            m_source->removeColumns(0, 0);
+        }
+    }
+
+    void persistentIndexesStayWithTheirCells()
+    {
+        std::vector<std::pair<QPersistentModelIndex, QString>> kept;
+        for (int row = 0; row < 2; ++row)
+            for (int column = 0; column < 4; ++column)
+                kept.emplace_back(m_table->index(row, column), m_table->index(row, column).data().toString());
+        const auto lost = [&] {
+            QStringList result;
+            for (const auto& [index, text] : kept)
+                if (index.data().toString() != text)
+                    result += text + '!' + index.data().toString();
+            return result.join(' ');
+        };
+        m_table->selectionModel()->select(m_table->index(0, 3), QItemSelectionModel::Select);
+        m_table->moveColumn(3, 0);
+        m_table->moveColumn(1, 3); // D B C A
+        QCOMPARE(lost(), "");
+        m_table->setSourceColumnVisible(1, false); // D C A
+        QCOMPARE(lost(), "b1! b2!");
+        m_source->insertColumns(0, {SourceTable::column('X')});
+        QCOMPARE(lost(), "b1! b2!");
+        m_table->setSourceColumnVisible(2, true);
+        m_table->showAllColumns();
+        QCOMPARE(lost(), "b1! b2!");
+        m_source->removeColumns(1, 1); // A
+        QCOMPARE(lost(), "a1! b1! a2! b2!");
+        m_table->setSelectionMode(SortFilterSelectModel::Cell);
+        QCOMPARE(m_table->selectedSources().size(), 1);
+        QCOMPARE(m_table->selectedSources().first().data(), QVariant("d1"));
+    }
+
+    void changedCellsAreToldWhereTheyStand_data()
+    {
+        QTest::addColumn<QString>("order"); // shown source columns
+        QTest::addColumn<int>("first");
+        QTest::addColumn<int>("last");
+        QTest::addColumn<QStringList>("runs"); // proxy columns
+        QTest::newRow("in the source's order") << "0123" << 1 << 2 << QStringList{"1 2"};
+        QTest::newRow("a hidden one left out") << "023" << 0 << 2 << QStringList{"0 1"};
+        QTest::newRow("all of them, permuted") << "3012" << 0 << 3 << QStringList{"0 3"};
+        QTest::newRow("apart") << "0213" << 0 << 1 << QStringList{"0 0", "2 2"};
+        QTest::newRow("turned round") << "3210" << 1 << 2 << QStringList{"1 2"};
+        QTest::newRow("apart with one hidden") << "310" << 1 << 3 << QStringList{"0 1"};
+        QTest::newRow("all hidden") << "30" << 1 << 2 << QStringList{};
+    }
+    void changedCellsAreToldWhereTheyStand()
+    {
+        QFETCH(QString, order);
+        QFETCH(int, first);
+        QFETCH(int, last);
+        QFETCH(QStringList, runs);
+        m_source->insert(2, {{"0", "b3", "c3", "d3"}});
+        for (int source = 0; source < 4; ++source)
+            if (!order.contains(QString::number(source)))
+                m_table->setSourceColumnVisible(source, false);
+        for (int place = 0; place < order.size(); ++place)
+            m_table->moveColumn(m_table->mapSourceColumnToProxy(order[place].digitValue()), place);
+        m_table->doSort(m_table->mapSourceColumnToProxy(0), true); // the source's last row comes first
+        QStringList cells;
+        QStringList headers;
+        for (const QString& run : runs) {
+            const QString left = run.section(' ', 0, 0);
+            const QString right = run.section(' ', 1, 1);
+            cells += QString("dataChanged(1,%1, 2,%2, [0 8])").arg(left, right);
+            headers += QString("headerDataChanged(1, %1, %2)").arg(left, right);
+        }
+        SignalLog log(*m_table);
+        Q_EMIT m_source->dataChanged(m_source->index(0, first), m_source->index(1, last), {0, 8});
+        QCOMPARE(log.take(), cells.join(' '));
+        Q_EMIT m_source->headerDataChanged(Qt::Horizontal, first, last);
+        QString told = log.take();
+        QVERIFY(!told.isEmpty() == !headers.isEmpty());
+        QCOMPARE(told.count("headerDataChanged"), headers.size());
+        for (const QString& run : runs)
+            QVERIFY2(told.contains(", " + run.section(' ', 0, 0) + ", " + run.section(' ', 1, 1) + ")"),
+                     qPrintable(told));
+        // What isn't a range of the source tells nothing, and leaves nothing behind.
+        Q_EMIT m_source->dataChanged({}, {});
+        QCOMPARE(log.take(), "");
+        Q_EMIT m_source->dataChanged(m_source->index(0, first), m_source->index(1, last), {0, 8});
+        QCOMPARE(log.take(), cells.join(' '));
+    }
+
+private:
+    std::optional<TemporaryConfig> m_store;
+    std::optional<SourceTable> m_source;
+    std::optional<SortFilterSelectModel> m_table;
+    std::optional<QAbstractItemModelTester> m_tester;
+};
+
+QTEST_GUILESS_MAIN(TestTableColumns)
+#include "tst_tablecolumns.moc"
