@@ -54,11 +54,10 @@ void TableTour::sortEntities()
     };
     m_driver.clickItem("header:Length");
     m_driver.waitFor("the entities from the shortest to the longest", [&] { return isSorted(true); });
+    m_save("entities-from-the-shortest");
+    // The shortest are too small to be seen lit up later.
     m_driver.clickItem("header:Length");
     m_driver.waitFor("the entities from the longest to the shortest", [&] { return isSorted(false); });
-    m_save("entities-from-the-longest");
-    m_driver.clickItem("header:Length");
-    m_driver.waitFor("the entities as before", [&] { return isSorted(true); });
 }
 
 void TableTour::selectRange()
