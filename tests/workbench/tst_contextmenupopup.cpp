@@ -193,7 +193,7 @@ void ContextMenuPopupTest::theMenuClosesAndTheKeyboardReturns()
     if (by == "Escape")
         m_driver.key(by);
     else
-        m_driver.click(placeOf(0.5, 5.3));
+        m_driver.click(placeOf(0.5, 2.5));
     m_driver.waitForNoMenu();
     // A click on the canvas gives the keyboard to the command line as it always does.
     if (from == "search" && by == "Escape") {

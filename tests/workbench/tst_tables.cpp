@@ -87,8 +87,8 @@ void TablesTest::aUserArrangesAndSelects()
     const QPoint border = middle + QPoint(width / 2, 0);
     m_driver.drag(border, border + QPoint(40, 0));
     m_driver.waitFor("a wider column", [&] { return table().columnWidth(1) > width + 30; });
-    m_driver.clickItem("header:Linetype", 3);
-    m_driver.clickItem("menu:Linetype");
+    m_driver.clickItem("header:Radius", 3);
+    m_driver.clickItem("menu:Radius");
     m_driver.waitFor("a column less", [&] { return table().columnCount() == M::ColumnCount - 1; });
 
     m_driver.clickItem("header:Type");
@@ -119,7 +119,7 @@ void TablesTest::theProgramStartsWithTheSameColumns()
 {
     const QStringList shown = columns();
     QCOMPARE(shown.mid(0, 3), QStringList({"number", "layer", "type"}));
-    QVERIFY(!shown.contains("linetype"));
+    QVERIFY(!shown.contains("radius"));
     QVERIFY(m_driver.ask([&] { return table().columnWidth(1); }) > 120);
     QVERIFY(m_driver.placeOfItem("header:Layer").x() < m_driver.placeOfItem("header:Type").x());
 }

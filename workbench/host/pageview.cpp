@@ -62,10 +62,23 @@ void PageView::setBlocked(bool blocked)
     setFlag(Qt::WindowDoesNotAcceptFocus, blocked);
 }
 
+/// Where Tab begins in the page or ends; null for a page without such a place. The way back from the page itself misses
+/// a scope that is the last of all.
+QQuickItem* PageView::endOfChain(bool first) const
+{
+    constexpr int longest = 1000;
+    QQuickItem* begin = contentItem()->nextItemInFocusChain(true);
+    if (!begin || begin == contentItem())
+        return nullptr;
+    QQuickItem* end = begin;
+    for (int step = 0; !first && step < longest && end->nextItemInFocusChain(true) != begin; ++step)
+        end = end->nextItemInFocusChain(true);
+    return end;
+}
+
 void PageView::focusEnd(bool first)
 {
-    QQuickItem* item = contentItem()->nextItemInFocusChain(first);
-    if (item && item != contentItem())
+    if (QQuickItem* item = endOfChain(first))
         item->forceActiveFocus(first ? Qt::TabFocusReason : Qt::BacktabFocusReason);
 }
 
@@ -81,15 +94,18 @@ bool PageView::hasFocusItem() const
 bool PageView::leavesByTab(bool forward) const
 {
     QQuickItem* current = activeFocusItem();
-    QQuickItem* entry = contentItem()->nextItemInFocusChain(forward);
-    if (!entry || entry == contentItem())
+    const QQuickItem* entry = endOfChain(forward);
+    if (!entry)
         return true;
     if (!current || (current->isAncestorOf(entry) && !current->activeFocusOnTab()))
         return false;
     // A text editor of several lines takes Tab as text.
     if (current->inherits("QQuickTextEdit") && !current->property("readOnly").toBool())
         return false;
-    return current->nextItemInFocusChain(forward) == entry;
+    // Of a table the keyboard has a part that Tab doesn't stop at.
+    while (current && !current->activeFocusOnTab())
+        current = current->parentItem();
+    return !current || current == endOfChain(!forward);
 }
 
 bool PageView::event(QEvent* event)

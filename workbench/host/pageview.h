@@ -40,6 +40,7 @@ protected:
 
 private:
     bool leavesByTab(bool forward) const;
+    QQuickItem* endOfChain(bool first) const;
 
     std::unique_ptr<QQuickItem> m_root;
     bool m_blocked = false;

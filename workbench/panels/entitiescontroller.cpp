@@ -33,12 +33,15 @@ EntitiesController::~EntitiesController()
 
 void EntitiesController::documentBecameCurrent(OdApDocument* document)
 {
+    OdDbDatabase* database = document ? document->database() : nullptr;
+    if (database == m_entities.database())
+        return;
     m_filter.forget();
     // A reset loses the sort and the order of the columns.
     m_table.saveColumnData();
     const int sorted = m_table.mapProxyColumnToSource(m_table.proxySortColumn());
     const bool ascending = m_table.ascending();
-    keepSelection([&] { m_entities.setDatabase(document ? document->database() : nullptr); });
+    keepSelection([&] { m_entities.setDatabase(database); });
     m_table.loadColumnData();
     if (m_table.isSourceColumnVisible(sorted))
         m_table.doSort(m_table.mapSourceColumnToProxy(sorted), ascending);

@@ -54,11 +54,10 @@ void TableTour::sortEntities()
     };
     m_driver.clickItem("header:Length");
     m_driver.waitFor("the entities from the shortest to the longest", [&] { return isSorted(true); });
+    m_save("entities-from-the-shortest");
+    // The shortest are too small to be seen lit up later.
     m_driver.clickItem("header:Length");
     m_driver.waitFor("the entities from the longest to the shortest", [&] { return isSorted(false); });
-    m_save("entities-from-the-longest");
-    m_driver.clickItem("header:Length");
-    m_driver.waitFor("the entities as before", [&] { return isSorted(true); });
 }
 
 void TableTour::selectRange()
@@ -100,10 +99,10 @@ void TableTour::searchEntities()
 
 void TableTour::arrangeColumns()
 {
-    m_driver.clickItem("header:Linetype", 3);
-    m_driver.placeOfItem("menu:Linetype");
+    m_driver.clickItem("header:Radius", 3);
+    m_driver.placeOfItem("menu:Radius");
     m_save("columns-to-choose");
-    m_driver.clickItem("menu:Linetype");
+    m_driver.clickItem("menu:Radius");
     m_driver.waitFor("a column less",
                      [&] { return m_frame.entities().table()->columnCount() == Entities::ColumnCount - 1; });
     const QString moved = title(2);
