@@ -58,7 +58,8 @@ void TestTablesExample::rowsAreSortedSearchedAndActivated()
     page->findChild<QObject*>("search")->setProperty("text", "screw");
     QCOMPARE(velmtest::rowText(controller.table), "Screw M8 Screw M10");
 
-    QVERIFY(QMetaObject::invokeMethod(page->findChild<QObject*>("stock"), "cellActivated", Q_ARG(int, 0), Q_ARG(int, 0)));
+    QVERIFY(
+        QMetaObject::invokeMethod(page->findChild<QObject*>("stock"), "cellActivated", Q_ARG(int, 0), Q_ARG(int, 0)));
     QCOMPARE(controller.ordered, 2);
     page.reset();
     velm::resetEngine(engine);

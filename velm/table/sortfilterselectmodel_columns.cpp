@@ -112,6 +112,7 @@ void SortFilterSelectModel::Pimpl::showColumns(std::vector<int> order)
         q->invalidateFilter();
         return;
     }
+    const bool wholeRows = selectionMode == Row && areWholeRowsSelected();
     reorder(sorted(before.order()));
     columns.setOrder(sorted(order));
     q->invalidateFilter();
@@ -119,8 +120,16 @@ void SortFilterSelectModel::Pimpl::showColumns(std::vector<int> order)
     for (int column = 0; column < columns.sourceCount(); ++column)
         if (!columns.isVisible(column))
             columns.setPosition(column, before.state(column)->position);
-    if (selectionMode == Row && columns.shownCount() > before.shownCount())
+    if (wholeRows && columns.shownCount() > before.shownCount())
         selectWholeRows();
+}
+
+bool SortFilterSelectModel::Pimpl::areWholeRowsSelected() const
+{
+    const QItemSelection selection = selectionModel.selection();
+    return std::all_of(selection.begin(), selection.end(), [this](const QItemSelectionRange& range) {
+        return range.left() == 0 && range.right() == q->columnCount(range.parent()) - 1;
+    });
 }
 
 /// A column that comes is no part of the ranges selected until then, but it is of their rows.

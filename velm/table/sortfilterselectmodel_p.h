@@ -55,6 +55,7 @@ struct SortFilterSelectModel::Pimpl
     void resetColumns(const QAbstractItemModel* source);
     void reorder(std::vector<int> order);
     void showColumns(std::vector<int> order);
+    bool areWholeRowsSelected() const;
     void selectWholeRows();
     void takeSourceOrder();
     void prepareInsertedColumns(const QModelIndex& parent, int first, int last);

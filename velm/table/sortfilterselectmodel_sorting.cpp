@@ -342,9 +342,12 @@ void SortFilterSelectModel::Pimpl::applyFilter()
     const std::vector<int> order = sortedColumn ? sourceRows() : std::vector<int>();
     for (const int row : order)
         count(static_cast<std::size_t>(row));
-    for (std::size_t row = 0; row < now.size(); ++row)
-        if (!sortedColumn || !before[row])
+    for (std::size_t row = 0; row < now.size(); ++row) {
+        if (!sortedColumn)
             count(row);
+        else
+            changedRanges += now[row] && !before[row]; // each at a place of its own
+    }
 
     accepted = std::move(now);
     isFiltering = true;
