@@ -134,7 +134,7 @@ void MainFrame::build()
     m_tablePanels = new wxNotebook(m_tableSplitter, wxID_ANY);
     addPanel(m_tablePanels, "Workbench/EntitiesPanel.qml", &entities(), _("Entities"));
     addPanel(m_tablePanels, "Workbench/DimStylesPanel.qml", &m_dimStyles, _("Dimension Styles"));
-    addPanel(m_tablePanels, "Workbench/PartsPanel.qml", &m_parts, _("Million rows"));
+    addPanel(m_tablePanels, "Workbench/PartsPanel.qml", &m_parts, _("Million Rows"));
 
     m_lowerSplitter->SetMinimumPaneSize(FromDIP(90));
     m_lowerSplitter->SetSashGravity(1.0);

@@ -114,7 +114,7 @@ void TableTour::arrangeColumns()
 void TableTour::fillMillionRows()
 {
     const auto rows = [this] { return m_frame.parts().parts()->rowCount(); };
-    m_driver.ask([&] { m_frame.showPanel("Million rows"); });
+    m_driver.ask([&] { m_frame.showPanel("Million Rows"); });
     m_driver.clickItem("fill");
     m_driver.waitFor(
         "some rows", [&] { return rows() > 100'000; }, 60'000);
