@@ -34,8 +34,8 @@ public:
     std::function<void()> aboutToChange;
 };
 
-/// The parts of the table and what ties them to the base class. Its functions stand in three files: columns, sorting
-/// and filtering, and the rest.
+/// The parts of the table and what ties them to the base class. Its functions stand beside the
+/// slots that they serve: columns, what the source tells, selection, sorting and filtering, and the rest.
 struct SortFilterSelectModel::Pimpl
 {
     explicit Pimpl(SortFilterSelectModel& model);
