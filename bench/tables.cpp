@@ -26,7 +26,7 @@ enum Column
     ColumnCount,
 };
 
-/// A million rows of texts such as "Part 137-2a" and of numbers, in no order.
+/// A million rows of texts such as "Bolt 137-2a" and of numbers, in no order.
 class Rows : public QAbstractTableModel
 {
 public:
@@ -38,7 +38,7 @@ public:
         m_doubles.reserve(million);
         for (int row = 0; row < million; ++row) {
             m_texts.push_back(QString("%1 %2-%3%4")
-                                  .arg(random.bounded(2) ? "Part" : "part")
+                                  .arg(random.bounded(2) ? "Bolt" : "bolt")
                                   .arg(random.bounded(5000))
                                   .arg(random.bounded(500))
                                   .arg(QChar('a' + random.bounded(26))));

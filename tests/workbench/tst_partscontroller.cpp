@@ -41,11 +41,11 @@ void PartsControllerTest::itFillsInPiecesUntilItIsFull()
     QVERIFY(controller.timeText().startsWith("Filled in "));
     QCOMPARE(controller.rowsText(), QLocale().toString(25'000) + " rows");
 
-    controller.setSearchText("part 17-");
+    controller.setSearchText("bolt 17-");
     QVERIFY(controller.table()->rowCount() > 0);
     QVERIFY(controller.table()->rowCount() < 100);
     for (int row = 0; row < controller.table()->rowCount(); ++row)
-        QVERIFY(controller.table()->index(row, M::NameColumn).data().toString().startsWith("Part 17-"));
+        QVERIFY(controller.table()->index(row, M::NameColumn).data().toString().startsWith("Bolt 17-"));
 }
 
 void PartsControllerTest::itStopsWhereItIs()

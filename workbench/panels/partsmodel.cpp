@@ -86,7 +86,7 @@ void PartsModel::append(int count)
 QString PartsModel::name(int row) const
 {
     const Part& part = m_parts[static_cast<std::size_t>(row)];
-    return QStringLiteral("Part ") + QString::number(part.family) + QLatin1Char('-') + QString::number(part.variant);
+    return QStringLiteral("Bolt ") + QString::number(part.family) + QLatin1Char('-') + QString::number(part.variant);
 }
 
 int PartsModel::rowCount(const QModelIndex& parent) const
