@@ -85,6 +85,7 @@ struct SortFilterSelectModel::Pimpl
     const SortKeys* keysFor(const QModelIndex& sourceIndex);
     void filterInvalidated();
     void applyFilter();
+    bool hasNoBranches() const;
     textranks::Ranks placesOf(const std::vector<int>& order, std::size_t rowCount) const;
 
     // Selection.

@@ -306,14 +306,14 @@ void SortFilterSelectModel::Pimpl::filterInvalidated()
         q->doSort(q->mapSourceColumnToProxy(sourceSortColumn), q->ascending(), true);
 }
 
-/// As invalidateFilter(), but with one change of the layout in place of the signals for very many ranges of rows. The
-/// branches of trees are taken to be small.
+/// As invalidateFilter(), but with one change of the layout in place of the signals for very many ranges of rows. A
+/// tree isn't told that way.
 void SortFilterSelectModel::Pimpl::applyFilter()
 {
     const KeyScope scope(*this);
     QAbstractItemModel* const source = q->sourceModel();
     const int rows = source ? source->rowCount() : 0;
-    if (qint64(rows) * rows <= cheapRangeSteps || !sourceIsFlat || q->columnCount() == 0) {
+    if (qint64(rows) * rows <= cheapRangeSteps || q->columnCount() == 0) {
         q->invalidateFilter();
         return;
     }
@@ -351,7 +351,7 @@ void SortFilterSelectModel::Pimpl::applyFilter()
 
     accepted = std::move(now);
     isFiltering = true;
-    if (changedRanges * rows <= cheapRangeSteps) {
+    if (changedRanges * rows <= cheapRangeSteps || !hasNoBranches()) {
         q->invalidateFilter();
     } else {
         // The selection model would keep the places of selected rows where all are selected, and tell nobody.
@@ -365,6 +365,17 @@ void SortFilterSelectModel::Pimpl::applyFilter()
         selected.putBack();
     }
     acceptedIsShown = std::exchange(isFiltering, false);
+}
+
+bool SortFilterSelectModel::Pimpl::hasNoBranches() const
+{
+    if (sourceIsFlat)
+        return true;
+    const QAbstractItemModel& source = *q->sourceModel();
+    for (int row = 0; row < source.rowCount(); ++row)
+        if (source.hasChildren(source.index(row, 0)))
+            return false;
+    return true;
 }
 
 /// By source row the places of rows in this order, as the base class compares now; those of other rows behind them.

@@ -151,6 +151,28 @@ private Q_SLOTS:
         QCOMPARE(table.selectedSourcesCount(), 5000); // those that come again aren't selected
     }
 
+    void aTreeWithoutBranchesIsFilteredAsOne()
+    {
+        QStandardItemModel source;
+        for (int row = 0; row < 10'000; ++row)
+            source.appendRow(new QStandardItem(QString::number(row)));
+        SortFilterSelectModel table;
+        table.setSourceModel(&source);
+        Filter filter;
+        table.setFilter(&filter);
+        QCOMPARE(table.rowCount(), 10'000);
+        QSignalSpy removals(&table, &QAbstractItemModel::rowsRemoved);
+        filter.accepts = [](QAbstractItemModel*, int row, QModelIndex) { return row % 2 == 1; };
+        Q_EMIT filter.invalidate();
+        QCOMPARE(table.rowCount(), 5000);
+        QCOMPARE(removals.size(), 0);
+        source.item(1)->appendRow(new QStandardItem("child"));
+        filter.accepts = [](QAbstractItemModel*, int row, QModelIndex) { return row % 4 == 1; };
+        Q_EMIT filter.invalidate();
+        QCOMPARE(table.rowCount(), 2500);
+        QCOMPARE(removals.size(), 2500);
+    }
+
     void hiddenRowsThatComeAndGoBetweenTwoFilters()
     {
         SourceTable source("A");
