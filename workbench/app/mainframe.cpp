@@ -28,7 +28,7 @@
 
 namespace workbench {
 namespace {
-constexpr int sideWidth = 340;
+constexpr int sideWidth = 380;
 constexpr int lowerHeight = 130;
 constexpr int lowerPanelsHeight = 290;
 constexpr int tablesHeight = 270;

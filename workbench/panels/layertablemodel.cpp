@@ -25,7 +25,7 @@ velm::Columns columns()
     velm::Columns columns;
     columns.initialSortColumn = Model::NameColumn;
     columns.columns = {
-        tableColumn(Model::NameColumn, CellKind::Text, Model::tr("Name"), "name", 76).sortType(velm::SortAlphanumeric),
+        tableColumn(Model::NameColumn, CellKind::Text, Model::tr("Name"), "name", 116).sortType(velm::SortAlphanumeric),
         tableColumn(Model::OnColumn, CellKind::Check, Model::tr("On"), "on", 30),
         tableColumn(Model::FrozenColumn, CellKind::Check, Model::tr("Frozen"), "frozen", 56),
         tableColumn(Model::LockedColumn, CellKind::Check, Model::tr("Locked"), "locked", 58),
