@@ -355,10 +355,8 @@ void SortFilterSelectModel::Pimpl::applyFilter()
         q->invalidateFilter();
     } else {
         // The selection model would keep the places of selected rows where all are selected, and tell nobody.
-        isFiltering = false;
         const KeptRows selected(*q);
-        isFiltering = true;
-        if (sortedColumn)
+        if (sortedColumn && isFiltering) // unless who heard of the selection changed the rows
             keys = {makeSortKeys(placesOf(order, before.size())), {}, *sortedColumn, 0};
         q->invalidate();
         q->rowCount(); // filters and sorts, if nothing else asked for it
