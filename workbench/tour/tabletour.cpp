@@ -64,7 +64,10 @@ void TableTour::selectRange()
 {
     const auto selected = [this] { return m_frame.selection().entities().size(); };
     const QColor accent = m_driver.ask([] { return velm::toQt(wxGuiColour(ut::EGuiColor::BlueHighlight)); });
-    m_driver.ask([&] { m_frame.selection().clear(); });
+    m_driver.ask([&] {
+        m_frame.selection().clear();
+        m_frame.canvas().Update(); // what was lit up until now isn't to be counted
+    });
     const int before = m_driver.countPixels(m_frame.canvas(), accent.rgb());
     const int last = m_driver.ask([&] { return std::min(3, m_frame.entities().table()->rowCount() - 1); });
     m_driver.clickItem(cell(0, "type"));
