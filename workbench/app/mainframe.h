@@ -11,6 +11,7 @@
 #include "panels/drawinginfo.h"
 #include "panels/layerscontroller.h"
 #include "panels/partscontroller.h"
+#include "units/unitscontroller.h"
 
 #include <wx/frame.h>
 
@@ -40,6 +41,8 @@ public:
     void tryPage(const wxString& file);
     /// To call after a change of what is in the drawing.
     void drawingChanged();
+    /// To call after a change of how the drawing writes values: all that shows some is written anew.
+    void unitsChanged();
 
     VelmSession& session() { return m_session; }
     Documents& documents() { return m_documents; }
@@ -53,6 +56,7 @@ public:
     PropertiesController& properties() { return m_drawingPanels.properties; }
     EntitiesController& entities() { return m_drawingPanels.entities; }
     PartsController& parts() { return m_parts; }
+    UnitsController& units() { return m_units; }
     wxNotebook& panels() { return *m_panels; }
     /// Those below, which are seen beside the others.
     wxNotebook& lowerPanels() { return *m_lowerPanels; }
@@ -89,6 +93,8 @@ private:
     DrawingInfo m_drawingInfo;
     DrawingPanels m_drawingPanels;
     PartsController m_parts;
+    UnitsController m_units;
+    OdGePoint3d m_cursor; // in the coordinates of the drawing
     Commands m_commands;
     CanvasMenu m_canvasMenu;
     ContextMenuPopup m_contextMenu;

@@ -10,6 +10,7 @@
 #include "tour/driver.h"
 #include "tour/paneltour.h"
 #include "tour/tabletour.h"
+#include "tour/unitstour.h"
 #include "velm/bridge/conversions.h"
 
 #include <QDir>
@@ -353,6 +354,7 @@ int Tour::run(bool hasDrawing)
         {"million-rows", tables(&TableTour::fillMillionRows)},
         {"million-rows-sorted", tables(&TableTour::sortMillionRows)},
         {"million-rows-scrolled", tables(&TableTour::scrollMillionRows)},
+        {"units", [this](Tour*) { UnitsTour(m_driver, [this](const QString& name) { save(name); }).run(); }},
         {"broken-page", &Tour::showBrokenPage},
         {"name-refused", &Tour::refuseName},
         {"name-accepted", &Tour::acceptName},
