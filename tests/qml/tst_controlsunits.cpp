@@ -22,6 +22,11 @@ class ShownField
 public:
     explicit ShownField(double value, int inputType = 0)
     {
+        // An engine begins with settings of its own.
+        Settings* settings = Settings::instance();
+        settings->setLinearUnitPrecision(2);
+        settings->setAngularUnitPrecision(1);
+        settings->setAngularUnitType(3);
         m_controller.setInputType(inputType);
         m_controller.setMinimumValue(-100);
         m_controller.setMaximumValue(100);
@@ -52,8 +57,8 @@ public:
     }
 
 private:
-    UnitsInputController m_controller;
     PageEngine m_engine;
+    UnitsInputController m_controller;
     std::optional<Shown> m_shown;
 };
 } // namespace
@@ -63,7 +68,6 @@ class TestControlsUnits : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init();
     void typedTextsReachTheController_data();
     void typedTextsReachTheController();
     void aTextThatIsNoValueStaysToBeMended_data();
@@ -81,15 +85,6 @@ private Q_SLOTS:
     void validatorsMendWhatIsFinished_data();
     void validatorsMendWhatIsFinished();
 };
-
-void TestControlsUnits::init()
-{
-    Settings* settings = Settings::instance();
-    settings->setLinearUnitPrecision(2);
-    settings->setAngularUnitPrecision(1);
-    settings->setLinearUnitString({});
-    settings->setAngularUnitType(3);
-}
 
 void TestControlsUnits::typedTextsReachTheController_data()
 {
@@ -278,18 +273,19 @@ void TestControlsUnits::theOwnersValueIsShown()
 
 void TestControlsUnits::changedSettingsAreFeltAtOnce()
 {
-    Settings* settings = Settings::instance();
+    {
+        const ShownField angle(1.23456, 1);
+        QCOMPARE(angle.text(), QStringLiteral("1.2"));
+        Settings::instance()->setAngularUnitPrecision(3);
+        QCOMPARE(angle.text(), QStringLiteral("1.235"));
+    }
     ShownField length(1.23456);
-    ShownField angle(1.23456, 1);
     QVERIFY(length.shown().isReady());
-    settings->setLinearUnitPrecision(4);
+    Settings::instance()->setLinearUnitPrecision(4);
     QCOMPARE(length.text(), QStringLiteral("1.2346"));
-    settings->setAngularUnitPrecision(3);
-    QCOMPARE(angle.text(), QStringLiteral("1.235"));
     // A text that is being typed stays; that of the value is the one of Escape.
-    length.shown().window()->requestActivate();
     length.type("x");
-    settings->setLinearUnitPrecision(1);
+    Settings::instance()->setLinearUnitPrecision(1);
     QCOMPARE(length.text(), QStringLiteral("x"));
     length.shown().press(Qt::Key_Escape);
     QCOMPARE(length.text(), QStringLiteral("1.2"));
@@ -298,20 +294,21 @@ void TestControlsUnits::changedSettingsAreFeltAtOnce()
 
 void TestControlsUnits::theUnitStandsBesideTheValue()
 {
-    Settings* settings = Settings::instance();
-    ShownField angle(1, 1);
+    {
+        ShownField angle(1, 1);
+        QVERIFY(angle.shown().isReady());
+        const QQuickItem* unit = angle.shown().find("unit");
+        QCOMPARE(unit->property("text").toString(), QStringLiteral("r"));
+        const double withUnit = angle.field()->property("rightPadding").toDouble();
+        Settings::instance()->setAngularUnitType(2);
+        QCOMPARE(unit->property("text").toString(), QStringLiteral("g"));
+        angle.controller().setShowUnitLabel(false);
+        QVERIFY(!unit->isVisible());
+        QVERIFY(angle.field()->property("rightPadding").toDouble() < withUnit);
+    }
     ShownField length(1);
-    QVERIFY(length.shown().isReady());
-    const QQuickItem* unit = angle.shown().find("unit");
-    QCOMPARE(unit->property("text").toString(), QStringLiteral("r"));
-    const double withUnit = angle.field()->property("rightPadding").toDouble();
-    settings->setAngularUnitType(2);
-    QCOMPARE(unit->property("text").toString(), QStringLiteral("g"));
-    angle.controller().setShowUnitLabel(false);
-    QVERIFY(!unit->isVisible());
-    QVERIFY(angle.field()->property("rightPadding").toDouble() < withUnit);
     QVERIFY(!length.shown().find("unit")->isVisible());
-    settings->setLinearUnitString(QStringLiteral("mm"));
+    Settings::instance()->setLinearUnitString(QStringLiteral("mm"));
     QCOMPARE(length.shown().find("unit")->property("text").toString(), QStringLiteral("mm"));
 }
 
