@@ -5,6 +5,10 @@
 #include <QGuiApplication>
 #include <QOpenGLContext>
 
+#ifdef _WIN32
+#include <wx/window.h>
+#endif
+
 #include <cwchar>
 
 #ifndef _WIN32
@@ -30,4 +34,11 @@ QOpenGLContext* openGlContextFromNative(HGLRC context, [[maybe_unused]] HWND win
     return nullptr;
 #endif
 }
+
+#ifdef _WIN32
+HWND nativeWindowOf(const wxWindow& window)
+{
+    return window.GetHandle();
+}
+#endif
 } // namespace desktop

@@ -7,8 +7,13 @@
 #include "velm/dialogs/basedialogcontroller.h"
 #include "velm/dialogs/basepopupcontroller.h"
 #include "velm/dialogs/namedialogcontroller.h"
+#include "velm/dialogs/transientpopupcore.h"
+#include "velm/units/fixingdoublevalidator.h"
+#include "velm/units/fixingintvalidator.h"
 #include "velm/units/qtfontconfig.h"
 #include "velm/units/settings.h"
+#include "velm/units/uidevsettingsmodel.h"
+#include "velm/units/unitsinputcontroller.h"
 
 #include <QtQml/qqmlregistration.h>
 
@@ -61,6 +66,41 @@ struct AddRenameDialogControllerType
     QML_FOREIGN(velm::AddRenameDialogController)
     QML_NAMED_ELEMENT(AddRenameDialogController)
     QML_UNCREATABLE("A dialog controller comes from the host.")
+};
+
+struct TransientPopupCoreType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::TransientPopupCore)
+    QML_NAMED_ELEMENT(TransientPopupCore)
+};
+
+struct UnitsInputControllerType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::UnitsInputController)
+    QML_NAMED_ELEMENT(UnitsInputController)
+};
+
+struct FixingIntValidatorType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::FixingIntValidator)
+    QML_NAMED_ELEMENT(FixingIntValidator)
+};
+
+struct FixingDoubleValidatorType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::FixingDoubleValidator)
+    QML_NAMED_ELEMENT(FixingDoubleValidator)
+};
+
+struct UIDevSettingsModelType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::UIDevSettingsModel)
+    QML_NAMED_ELEMENT(UIDevSettingsModel)
 };
 
 struct QtControllerWrapperType

@@ -140,7 +140,7 @@ bool FakeDialogFactory::loadLineTypesDialog(wxWindow*, OdDbDatabase*, OdArray<Od
 
 bool FakeDialogFactory::quickCalculator(wxWindow*, OdDbEvalVariantPtr& value, bool modal)
 {
-    log += QString("calculator %1%2").arg(value ? QString::number(value->getDouble()) : "-", modal ? " modal" : "");
+    log += QString("calculator %1%2").arg(value ? QString::number(value->getAsDouble()) : "-", modal ? " modal" : "");
     return calculate && calculate(value);
 }
 

@@ -1,0 +1,5 @@
+#include "velm/images/ibitmapsizeselector.h"
+
+namespace velm {
+IBitmapSizeSelector::~IBitmapSizeSelector() = default;
+}

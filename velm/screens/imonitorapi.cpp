@@ -1,0 +1,5 @@
+#include "velm/screens/imonitorapi.h"
+
+namespace velm {
+IMonitorAPI::~IMonitorAPI() = default;
+}

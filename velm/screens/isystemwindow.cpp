@@ -1,0 +1,5 @@
+#include "velm/screens/isystemwindow.h"
+
+namespace velm {
+ISystemWindow::~ISystemWindow() = default;
+}

@@ -1,0 +1,7 @@
+#include "velm/units/iunitsinputcontrollerdelegate.h"
+
+#include "velm/units/ilinearunitsdataprovider.h"
+
+namespace velm {
+IUnitsInputControllerDelegate::~IUnitsInputControllerDelegate() = default;
+}
