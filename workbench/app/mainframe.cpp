@@ -3,6 +3,7 @@
 #include "app/drawingcommands.h"
 #include "app/framecommands.h"
 #include "app/framemenu.h"
+#include "app/frametoolbar.h"
 #include "app/hostservices.h"
 #include "app/layercommands.h"
 #include "app/velmsession.h"
@@ -158,7 +159,10 @@ void MainFrame::build()
     keepSecondPane(*m_panelSplitter, FromDIP(lowerPanelsHeight));
     keepSecondPane(*m_tableSplitter, FromDIP(tablesHeight));
 
-    addMenus(*this, frameActions(*this));
+    const std::vector<Action> actions = frameActions(*this);
+    addMenus(*this, actions);
+    m_toolBar = new FrameToolBar(*this, actions);
+    SetToolBar(m_toolBar);
     for (PagePanel* page : m_pages.pages())
         page->setAcceleratorTable(shortcuts(*GetMenuBar()));
     CreateStatusBar(3, wxSTB_DEFAULT_STYLE & ~wxSTB_SIZEGRIP);
@@ -286,6 +290,7 @@ void MainFrame::applyColours()
     m_commandLine->setColours(wxGuiColour(ut::EGuiColor::Grey10), wxGuiColour(ut::EGuiColor::PanelBackground),
                               wxGuiColour(ut::EGuiColor::InputBackground));
     m_canvas->Refresh();
+    m_toolBar->setTheme(m_session.theme());
     const bool isDark = m_session.theme() == ut::EGuiColorTheme::Dark;
     m_layers.setDarkBackground(isDark);
     entities().setDarkBackground(isDark);

@@ -21,12 +21,13 @@ class wxSplitterWindow;
 namespace workbench {
 class CommandLine;
 class DrawingCanvas;
+class FrameToolBar;
 class HostServices;
 class PageGroup;
 class PagePanel;
 class VelmSession;
 
-/// The program's window: menu, drawing, command line, and panels with pages at its side and below the drawing.
+/// The program's window: menu, tools, drawing, command line, and panels with pages at its side and below the drawing.
 class MainFrame : public wxFrame, private OdApDocManagerReactor
 {
 public:
@@ -95,6 +96,7 @@ private:
     // All owned by the window tree.
     DrawingCanvas* m_canvas = nullptr;
     CommandLine* m_commandLine = nullptr;
+    FrameToolBar* m_toolBar = nullptr;
     wxNotebook* m_panels = nullptr;
     wxNotebook* m_lowerPanels = nullptr;
     wxNotebook* m_tablePanels = nullptr;
