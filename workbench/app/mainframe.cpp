@@ -26,6 +26,8 @@
 
 #include <QDir>
 
+#include <memory>
+
 namespace workbench {
 namespace {
 constexpr int sideWidth = 380;
@@ -35,17 +37,24 @@ constexpr int tablesHeight = 270;
 const OdString rectKey = L"MainWindow/Rectangle";
 const OdString maximizedKey = L"MainWindow/Maximized";
 
-/// Gives the second pane of a splitter its size, in pixels, once the splitter has got a size to share: before that the
-/// position would be cut down to the little that there is.
-void placeSash(wxSplitterWindow& splitter, int size)
+/// Keeps the second pane of a splitter at this size, in pixels, or at what a person's hand makes of it, as far as the
+/// splitter has room. The place is wished for anew with each size: the window gets several before it is on the screen,
+/// some of them tiny, and a sash must not stay where one of those pressed it.
+void keepSecondPane(wxSplitterWindow& splitter, int size)
 {
-    splitter.Bind(wxEVT_SIZE, [&splitter, size, placed = false](wxSizeEvent& event) mutable {
+    const auto wanted = std::make_shared<int>(size);
+    splitter.Bind(wxEVT_SIZE, [&splitter, wanted](wxSizeEvent& event) {
+        // The splitter itself, which comes next, places the panes by it.
+        splitter.SetSashPosition(-*wanted, false);
         event.Skip();
-        const bool sideBySide = splitter.GetSplitMode() == wxSPLIT_VERTICAL;
-        if (placed || (sideBySide ? event.GetSize().x : event.GetSize().y) < 2 * size)
+    });
+    splitter.Bind(wxEVT_SPLITTER_SASH_POS_CHANGED, [&splitter, wanted](wxSplitterEvent& event) {
+        event.Skip();
+        // Splitters within this one tell it of theirs, too.
+        if (event.GetEventObject() != &splitter)
             return;
-        placed = true;
-        splitter.CallAfter([&splitter, size] { splitter.SetSashPosition(-size); });
+        const wxSize all = splitter.GetClientSize();
+        *wanted = (splitter.GetSplitMode() == wxSPLIT_VERTICAL ? all.x : all.y) - event.GetSashPosition();
     });
 }
 } // namespace
@@ -140,21 +149,17 @@ void MainFrame::build()
     addPanel(m_tablePanels, "Workbench/ToolIconsPanel.qml", &m_images, _("Tool Icons"));
 
     m_lowerSplitter->SetMinimumPaneSize(FromDIP(90));
-    m_lowerSplitter->SetSashGravity(1.0);
     m_sideSplitter->SetMinimumPaneSize(FromDIP(200));
-    m_sideSplitter->SetSashGravity(1.0);
     m_panelSplitter->SetMinimumPaneSize(FromDIP(120));
-    m_panelSplitter->SetSashGravity(1.0);
     m_sideSplitter->SplitVertically(m_lowerSplitter, m_panelSplitter);
     m_panelSplitter->SplitHorizontally(m_panels, m_lowerPanels);
     m_tableSplitter->SetMinimumPaneSize(FromDIP(120));
-    m_tableSplitter->SetSashGravity(1.0);
     m_lowerSplitter->SplitHorizontally(m_tableSplitter, m_commandLine);
     m_tableSplitter->SplitHorizontally(m_canvas, m_tablePanels);
-    placeSash(*m_sideSplitter, FromDIP(sideWidth));
-    placeSash(*m_lowerSplitter, FromDIP(lowerHeight));
-    placeSash(*m_panelSplitter, FromDIP(lowerPanelsHeight));
-    placeSash(*m_tableSplitter, FromDIP(tablesHeight));
+    keepSecondPane(*m_sideSplitter, FromDIP(sideWidth));
+    keepSecondPane(*m_lowerSplitter, FromDIP(lowerHeight));
+    keepSecondPane(*m_panelSplitter, FromDIP(lowerPanelsHeight));
+    keepSecondPane(*m_tableSplitter, FromDIP(tablesHeight));
 
     addMenus(*this, frameActions(*this));
     for (PagePanel* page : m_pages.pages())
