@@ -65,8 +65,8 @@ MainFrame::MainFrame(VelmSession& session, HostServices& services, PageGroup& pa
       m_services(services), m_pages(pages), m_documents(services.documents(), services.dialogs(), pages),
       m_selection(services.documents()), m_layers(services.documents(), services.dialogs()),
       m_dimStyles(services.documents(), services.dialogs()), m_drawingInfo(services.documents()),
-      m_drawingPanels(services.documents(), m_selection), m_canvasMenu(services.documents(), m_selection),
-      m_contextMenu(pages, *this, m_canvasMenu)
+      m_images(services.documents()), m_drawingPanels(services.documents(), m_selection),
+      m_canvasMenu(services.documents(), m_selection), m_contextMenu(pages, *this, m_canvasMenu)
 {
     build();
     addCommands();
@@ -140,11 +140,14 @@ void MainFrame::build()
     m_lowerPanels = new wxNotebook(m_panelSplitter, wxID_ANY);
     addPanel(m_lowerPanels, "Workbench/PropertiesPanel.qml", &properties(), _("Properties"));
     addPanel(m_lowerPanels, "Workbench/DrawingPanel.qml", &m_drawingInfo, _("Drawing"));
+    addPanel(m_lowerPanels, "Workbench/DeveloperPanel.qml", nullptr, _("Developer"));
 
     m_tablePanels = new wxNotebook(m_tableSplitter, wxID_ANY);
     addPanel(m_tablePanels, "Workbench/EntitiesPanel.qml", &entities(), _("Entities"));
     addPanel(m_tablePanels, "Workbench/DimStylesPanel.qml", &m_dimStyles, _("Dimension Styles"));
     addPanel(m_tablePanels, "Workbench/PartsPanel.qml", &m_parts, _("Million Rows"));
+    addPanel(m_tablePanels, "Workbench/ImagesPanel.qml", &m_images, _("Images"));
+    addPanel(m_tablePanels, "Workbench/ToolIconsPanel.qml", &m_images, _("Tool Icons"));
 
     m_lowerSplitter->SetMinimumPaneSize(FromDIP(90));
     m_sideSplitter->SetMinimumPaneSize(FromDIP(200));
@@ -270,6 +273,7 @@ void MainFrame::drawingChanged()
     m_layers.refresh();
     m_dimStyles.refresh();
     m_drawingInfo.refresh();
+    m_images.refresh();
     m_drawingPanels.refresh();
     showState();
 }
@@ -294,6 +298,7 @@ void MainFrame::applyColours()
     const bool isDark = m_session.theme() == ut::EGuiColorTheme::Dark;
     m_layers.setDarkBackground(isDark);
     entities().setDarkBackground(isDark);
+    m_images.setDarkBackground(isDark);
     wxStatusBar* bar = GetStatusBar();
     bar->SetBackgroundColour(wxGuiColour(ut::EGuiColor::PanelsetIconStripBase));
     bar->SetForegroundColour(wxGuiColour(ut::EGuiColor::Grey8));

@@ -9,6 +9,7 @@
 #include "od/odge.h"
 #include "panels/dimstylescontroller.h"
 #include "panels/drawinginfo.h"
+#include "panels/imagescontroller.h"
 #include "panels/layerscontroller.h"
 #include "panels/partscontroller.h"
 
@@ -53,6 +54,7 @@ public:
     BranchController& branch() { return m_drawingPanels.branch; }
     PropertiesController& properties() { return m_drawingPanels.properties; }
     EntitiesController& entities() { return m_drawingPanels.entities; }
+    ImagesController& images() { return m_images; }
     PartsController& parts() { return m_parts; }
     wxNotebook& panels() { return *m_panels; }
     /// Those below, which are seen beside the others.
@@ -88,6 +90,7 @@ private:
     LayersController m_layers;
     DimStylesController m_dimStyles;
     DrawingInfo m_drawingInfo;
+    ImagesController m_images;
     DrawingPanels m_drawingPanels;
     PartsController m_parts;
     Commands m_commands;
