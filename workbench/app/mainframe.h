@@ -9,6 +9,7 @@
 #include "od/odge.h"
 #include "panels/dimstylescontroller.h"
 #include "panels/drawinginfo.h"
+#include "panels/imagescontroller.h"
 #include "panels/layerscontroller.h"
 #include "panels/partscontroller.h"
 
@@ -21,12 +22,13 @@ class wxSplitterWindow;
 namespace workbench {
 class CommandLine;
 class DrawingCanvas;
+class FrameToolBar;
 class HostServices;
 class PageGroup;
 class PagePanel;
 class VelmSession;
 
-/// The program's window: menu, drawing, command line, and panels with pages at its side and below the drawing.
+/// The program's window: menu, tools, drawing, command line, and panels with pages at its side and below the drawing.
 class MainFrame : public wxFrame, private OdApDocManagerReactor
 {
 public:
@@ -52,6 +54,7 @@ public:
     BranchController& branch() { return m_drawingPanels.branch; }
     PropertiesController& properties() { return m_drawingPanels.properties; }
     EntitiesController& entities() { return m_drawingPanels.entities; }
+    ImagesController& images() { return m_images; }
     PartsController& parts() { return m_parts; }
     wxNotebook& panels() { return *m_panels; }
     /// Those below, which are seen beside the others.
@@ -87,6 +90,7 @@ private:
     LayersController m_layers;
     DimStylesController m_dimStyles;
     DrawingInfo m_drawingInfo;
+    ImagesController m_images;
     DrawingPanels m_drawingPanels;
     PartsController m_parts;
     Commands m_commands;
@@ -95,6 +99,7 @@ private:
     // All owned by the window tree.
     DrawingCanvas* m_canvas = nullptr;
     CommandLine* m_commandLine = nullptr;
+    FrameToolBar* m_toolBar = nullptr;
     wxNotebook* m_panels = nullptr;
     wxNotebook* m_lowerPanels = nullptr;
     wxNotebook* m_tablePanels = nullptr;

@@ -33,8 +33,7 @@ QString text(const wxBitmap& bitmap)
 } // namespace
 
 /// Each icon has its own colour. There are "testpen" for 16 dark, 32 dark and 32 light, "testsun" for 20 light,
-/// "testwide" for 16 dark, half as high, "testpen_dark" for 32 dark, and of size -1 "default" dark and "testghost"
-/// light.
+/// "testwide" for 16 dark, half as high, "testpen_dark" for 32 dark, and of size -1 "testghost" light.
 class TestToolBitmaps : public QObject
 {
     Q_OBJECT
@@ -62,11 +61,7 @@ private Q_SLOTS:
         QTest::newRow("an icon as wide as asked stays") << "testwide" << 16 << false << 0 << "16x8 #808080" << none;
         QTest::newRow("the aspect stays") << "testwide" << 24 << false << 0 << "24x12 #808080" << none;
         QTest::newRow("an unknown name") << "unknown" << 24 << false << 0 << "none" << exhausted;
-        QTest::newRow("the default of dark") << "unknown" << 24 << true << 0 << "24x24 #ff00ff" << exhausted;
-        QTest::newRow("light has no default") << "unknown" << 24 << true << 1 << "none" << exhausted;
         QTest::newRow("after all sizes comes -1") << "testghost" << 24 << false << 0 << "24x24 #123456" << exhausted;
-        const QString invalid = "Bitmap lookup size: invalid base size: 14";
-        QTest::newRow("too small with a default") << "testpen" << 14 << true << 0 << "14x14 #ff00ff" << invalid;
     }
     void theNearestIconIsScaled()
     {
@@ -84,6 +79,19 @@ private Q_SLOTS:
         const BitmapHolder wx = getToolBitmap(name, size, tryDefault, static_cast<ut::EGuiColorTheme>(theme));
         QCOMPARE(text(wx.bitmapWx()), expected);
         QVERIFY(!wx.hasQtImage());
+    }
+
+    void theDefaultIsThatOfTheSizeMinusOneInItsTheme()
+    {
+        for (const int theme : {0, 1, 2, -1})
+            for (const int size : {24, 14}) { // the latter finds no size at all
+                QTest::ignoreMessage(QtDebugMsg,
+                                     size == 14 ? "Bitmap lookup size: invalid base size: 14" : qPrintable(exhausted));
+                const QImage icon(theme == 1 ? ":/toolicons/-1/light/default.png" : ":/toolicons/-1/dark/default.png");
+                QVERIFY(!icon.isNull());
+                QCOMPARE(getQtToolBitmap("unknown", size, true, static_cast<ut::EGuiColorTheme>(theme)).bitmapQt(),
+                         icon.scaled(size, size, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+            }
     }
 
     void anIdNamesSizeAndTheme()
