@@ -137,6 +137,7 @@ void MainFrame::build()
     addPanel(m_panels, "Workbench/LayersPanel.qml", &m_layers, _("Layers"));
     addPanel(m_panels, "Workbench/StructurePanel.qml", &structure(), _("Structure"));
     addPanel(m_panels, "Workbench/BranchPanel.qml", &branch(), _("Branch"));
+    addPanel(m_panels, "Workbench/UnitsPanel.qml", &m_units, _("Units"));
     m_lowerPanels = new wxNotebook(m_panelSplitter, wxID_ANY);
     addPanel(m_lowerPanels, "Workbench/PropertiesPanel.qml", &properties(), _("Properties"));
     addPanel(m_lowerPanels, "Workbench/DrawingPanel.qml", &m_drawingInfo, _("Drawing"));
@@ -278,6 +279,14 @@ void MainFrame::drawingChanged()
     showState();
 }
 
+void MainFrame::unitsChanged()
+{
+    pushUnits();
+    drawingChanged();
+    if (!GetStatusBar()->GetStatusText(0).empty())
+        showCursor(m_cursor);
+}
+
 void MainFrame::pushUnits()
 {
     velm::Settings* settings = velm::Settings::instance();
@@ -287,6 +296,8 @@ void MainFrame::pushUnits()
     settings->setLinearUnitPrecision(units.linearPrecision);
     settings->setAngularUnitPrecision(units.angularPrecision);
     settings->setAngularUnitType(units.angularKind);
+    // The kind of lengths is no setting of its own: fields write their values anew with the precision.
+    Q_EMIT settings->linearUnitPrecisionChanged();
 }
 
 void MainFrame::applyColours()
@@ -312,6 +323,7 @@ void MainFrame::showCursor(const OdGePoint3d& point)
     OdApDocument* document = m_documents.current();
     if (!document)
         return;
+    m_cursor = point;
     const OdUnitsFormatter& formatter = document->database()->formatter();
     SetStatusText(
         wxString::Format("%s,  %s", formatter.formatLinear(point.x).c_str(), formatter.formatLinear(point.y).c_str()),

@@ -12,6 +12,7 @@
 #include "panels/imagescontroller.h"
 #include "panels/layerscontroller.h"
 #include "panels/partscontroller.h"
+#include "units/unitscontroller.h"
 
 #include <wx/frame.h>
 
@@ -42,6 +43,8 @@ public:
     void tryPage(const wxString& file);
     /// To call after a change of what is in the drawing.
     void drawingChanged();
+    /// To call after a change of how the drawing writes values: all that shows some is written anew.
+    void unitsChanged();
 
     VelmSession& session() { return m_session; }
     Documents& documents() { return m_documents; }
@@ -56,6 +59,7 @@ public:
     EntitiesController& entities() { return m_drawingPanels.entities; }
     ImagesController& images() { return m_images; }
     PartsController& parts() { return m_parts; }
+    UnitsController& units() { return m_units; }
     wxNotebook& panels() { return *m_panels; }
     /// Those below, which are seen beside the others.
     wxNotebook& lowerPanels() { return *m_lowerPanels; }
@@ -93,6 +97,8 @@ private:
     ImagesController m_images;
     DrawingPanels m_drawingPanels;
     PartsController m_parts;
+    UnitsController m_units;
+    OdGePoint3d m_cursor; // in the coordinates of the drawing
     Commands m_commands;
     CanvasMenu m_canvasMenu;
     ContextMenuPopup m_contextMenu;

@@ -11,6 +11,7 @@
 #include "tour/imagetour.h"
 #include "tour/paneltour.h"
 #include "tour/tabletour.h"
+#include "tour/unitstour.h"
 #include "velm/bridge/conversions.h"
 
 #include <QDir>
@@ -360,6 +361,7 @@ int Tour::run(bool hasDrawing)
         {"developer-settings", images(&ImageTour::setDeveloperSettings)},
         {"image-zoomed", images(&ImageTour::placePicture)},
         {"tool-icons", images(&ImageTour::showToolIcons)},
+        {"units", [this](Tour*) { UnitsTour(m_driver, [this](const QString& name) { save(name); }).run(); }},
         {"broken-page", &Tour::showBrokenPage},
         {"name-refused", &Tour::refuseName},
         {"name-accepted", &Tour::acceptName},
