@@ -11,6 +11,7 @@
 #include "panels/drawinginfo.h"
 #include "panels/layerscontroller.h"
 #include "panels/partscontroller.h"
+#include "panels/screenscontroller.h"
 
 #include <wx/frame.h>
 
@@ -19,6 +20,7 @@ class wxNotebook;
 class wxSplitterWindow;
 
 namespace workbench {
+class CanvasTip;
 class CommandLine;
 class DrawingCanvas;
 class HostServices;
@@ -53,6 +55,8 @@ public:
     PropertiesController& properties() { return m_drawingPanels.properties; }
     EntitiesController& entities() { return m_drawingPanels.entities; }
     PartsController& parts() { return m_parts; }
+    ScreensController& screens() { return m_screens; }
+    const CanvasTip& canvasTip() const { return *m_canvasTip; }
     wxNotebook& panels() { return *m_panels; }
     /// Those below, which are seen beside the others.
     wxNotebook& lowerPanels() { return *m_lowerPanels; }
@@ -89,9 +93,11 @@ private:
     DrawingInfo m_drawingInfo;
     DrawingPanels m_drawingPanels;
     PartsController m_parts;
+    ScreensController m_screens;
     Commands m_commands;
     CanvasMenu m_canvasMenu;
     ContextMenuPopup m_contextMenu;
+    std::unique_ptr<CanvasTip> m_canvasTip;
     // All owned by the window tree.
     DrawingCanvas* m_canvas = nullptr;
     CommandLine* m_commandLine = nullptr;

@@ -151,6 +151,11 @@ QQuickItem* Driver::findItem(const QString& name)
     if (const PagePopup* open = popup())
         if (QQuickItem* item = findBelow(open->view()->contentItem(), name, hidden))
             return item;
+    // The popups of pages.
+    for (QWindow* window : QGuiApplication::topLevelWindows())
+        if (auto* page = qobject_cast<QQuickWindow*>(window); page && page->isVisible())
+            if (QQuickItem* item = findBelow(page->contentItem(), name, hidden))
+                return item;
     for (PagePanel* page : m_app.pages().pages())
         if (page->IsShownOnScreen())
             if (QQuickItem* item = findBelow(page->view()->contentItem(), name, hidden))
@@ -221,6 +226,11 @@ void Driver::click(QPoint screen, int button, const QString& modifier)
     const QStringList press = {"click", QString::number(button)};
     arguments += modifier.isEmpty() ? press : QStringList{"keydown", modifier} + press + QStringList{"keyup", modifier};
     xdotool(arguments);
+}
+
+void Driver::moveMouse(QPoint screen)
+{
+    xdotool({"mousemove", QString::number(screen.x()), QString::number(screen.y())});
 }
 
 void Driver::drag(QPoint from, QPoint to, const std::function<void()>& onTheWay)

@@ -9,6 +9,7 @@
 #include "od/oddbdatabase.h"
 #include "tour/driver.h"
 #include "tour/paneltour.h"
+#include "tour/screentour.h"
 #include "tour/tabletour.h"
 #include "velm/bridge/conversions.h"
 
@@ -41,7 +42,8 @@ public:
     Tour(WorkbenchApp& app, const QString& folder)
         : m_driver(app), m_frame(*app.frame()), m_folder(folder),
           m_panelTour(m_driver, [this](const QString& name) { save(name); }),
-          m_tableTour(m_driver, [this](const QString& name) { save(name); })
+          m_tableTour(m_driver, [this](const QString& name) { save(name); }),
+          m_screenTour(m_driver, [this](const QString& name) { save(name); })
     {}
 
     int run(bool hasDrawing);
@@ -79,6 +81,7 @@ private:
     QString m_folder;
     PanelTour m_panelTour;
     TableTour m_tableTour;
+    ScreenTour m_screenTour;
     QTemporaryDir m_scratch;
     bool m_hasDrawing = false;
     int m_step = 0;
@@ -330,6 +333,7 @@ int Tour::run(bool hasDrawing)
     m_hasDrawing = hasDrawing;
     const auto panels = [this](void (PanelTour::*step)()) { return [this, step](Tour*) { (m_panelTour.*step)(); }; };
     const auto tables = [this](void (TableTour::*step)()) { return [this, step](Tour*) { (m_tableTour.*step)(); }; };
+    const auto screens = [this](void (ScreenTour::*step)()) { return [this, step](Tour*) { (m_screenTour.*step)(); }; };
     const std::pair<const char*, std::function<void(Tour*)>> steps[] = {
         {"open-drawing", &Tour::openDrawing},
         {"layers-panel", &Tour::switchLayer},
@@ -353,6 +357,9 @@ int Tour::run(bool hasDrawing)
         {"million-rows", tables(&TableTour::fillMillionRows)},
         {"million-rows-sorted", tables(&TableTour::sortMillionRows)},
         {"million-rows-scrolled", tables(&TableTour::scrollMillionRows)},
+        {"tool-tip", screens(&ScreenTour::showTip)},
+        {"screens", screens(&ScreenTour::showScreens)},
+        {"popup", screens(&ScreenTour::openPopup)},
         {"broken-page", &Tour::showBrokenPage},
         {"name-refused", &Tour::refuseName},
         {"name-accepted", &Tour::acceptName},
