@@ -14,8 +14,8 @@ run_packages=(
   qml6-module-qtquick-window qml6-module-qtquick-shapes qml6-module-qtqml qml6-module-qtqml-models
   qml6-module-qtqml-workerscript libgl1-mesa-dri fonts-dejavu-core adwaita-icon-theme
 )
-# A private X server with a window manager and a hand on mouse and keyboard.
-display_packages=(xvfb xauth openbox xdotool x11-utils)
+# A private X server with a window manager, several monitors, and a hand on mouse and keyboard.
+display_packages=(xvfb xauth openbox xdotool x11-utils x11-xserver-utils)
 test_packages=(qml6-module-qttest)
 
 # install_packages NAME...: installs those that are missing from the system's own package sources.

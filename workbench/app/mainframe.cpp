@@ -1,5 +1,6 @@
 #include "app/mainframe.h"
 
+#include "app/canvastip.h"
 #include "app/drawingcommands.h"
 #include "app/framecommands.h"
 #include "app/framemenu.h"
@@ -96,6 +97,13 @@ MainFrame::MainFrame(VelmSession& session, HostServices& services, PageGroup& pa
             event.Skip();
         }
     });
+    // Once what is inside the frame has its place too.
+    const auto moved = [this](wxEvent& event) {
+        event.Skip();
+        CallAfter([] { velm::PositionManager::instance().update(); });
+    };
+    Bind(wxEVT_MOVE, moved);
+    Bind(wxEVT_SIZE, moved);
     restoreGeometry();
     applyColours();
     documentBecameCurrent(nullptr);
@@ -142,6 +150,7 @@ void MainFrame::build()
     addPanel(m_lowerPanels, "Workbench/PropertiesPanel.qml", &properties(), _("Properties"));
     addPanel(m_lowerPanels, "Workbench/DrawingPanel.qml", &m_drawingInfo, _("Drawing"));
     addPanel(m_lowerPanels, "Workbench/DeveloperPanel.qml", nullptr, _("Developer"));
+    m_screens.setWindow(addPanel(m_lowerPanels, "Workbench/ScreensPanel.qml", &m_screens, _("Screens")));
 
     m_tablePanels = new wxNotebook(m_tableSplitter, wxID_ANY);
     addPanel(m_tablePanels, "Workbench/EntitiesPanel.qml", &entities(), _("Entities"));
@@ -220,6 +229,7 @@ void MainFrame::connectCanvas()
     });
     QObject::connect(&m_selection, &Selection::changed, &m_selection,
                      [this] { m_canvas->setHighlighted(m_selection.entities()); });
+    m_canvasTip = std::make_unique<CanvasTip>(*m_canvas);
     m_canvas->onMenuWanted = [this] { m_contextMenu.open(); };
     m_canvasMenu.isGridShown = [this] { return m_canvas->isGridShown(); };
     m_canvasMenu.isSnapping = [this] { return m_canvas->isSnapping(); };
@@ -260,6 +270,7 @@ void MainFrame::askForDrawing()
 
 void MainFrame::documentBecameCurrent(OdApDocument* document)
 {
+    m_canvasTip->hide();
     m_canvas->setDatabase(document ? document->database() : nullptr);
     pushUnits();
     SetTitle(document ? wxFileName(document->fileName().c_str()).GetFullName() + " - velm workbench"
@@ -270,6 +281,7 @@ void MainFrame::documentBecameCurrent(OdApDocument* document)
 
 void MainFrame::drawingChanged()
 {
+    m_canvasTip->hide();
     m_canvas->refreshDrawing();
     m_layers.refresh();
     m_dimStyles.refresh();

@@ -12,6 +12,7 @@
 #include "panels/imagescontroller.h"
 #include "panels/layerscontroller.h"
 #include "panels/partscontroller.h"
+#include "panels/screenscontroller.h"
 #include "units/unitscontroller.h"
 
 #include <wx/frame.h>
@@ -21,6 +22,7 @@ class wxNotebook;
 class wxSplitterWindow;
 
 namespace workbench {
+class CanvasTip;
 class CommandLine;
 class DrawingCanvas;
 class FrameToolBar;
@@ -60,6 +62,8 @@ public:
     ImagesController& images() { return m_images; }
     PartsController& parts() { return m_parts; }
     UnitsController& units() { return m_units; }
+    ScreensController& screens() { return m_screens; }
+    const CanvasTip& canvasTip() const { return *m_canvasTip; }
     wxNotebook& panels() { return *m_panels; }
     /// Those below, which are seen beside the others.
     wxNotebook& lowerPanels() { return *m_lowerPanels; }
@@ -99,9 +103,11 @@ private:
     PartsController m_parts;
     UnitsController m_units;
     OdGePoint3d m_cursor; // in the coordinates of the drawing
+    ScreensController m_screens;
     Commands m_commands;
     CanvasMenu m_canvasMenu;
     ContextMenuPopup m_contextMenu;
+    std::unique_ptr<CanvasTip> m_canvasTip;
     // All owned by the window tree.
     DrawingCanvas* m_canvas = nullptr;
     CommandLine* m_commandLine = nullptr;
