@@ -9,8 +9,10 @@
 #include "od/odge.h"
 #include "panels/dimstylescontroller.h"
 #include "panels/drawinginfo.h"
+#include "panels/imagescontroller.h"
 #include "panels/layerscontroller.h"
 #include "panels/partscontroller.h"
+#include "panels/screenscontroller.h"
 #include "units/unitscontroller.h"
 
 #include <wx/frame.h>
@@ -20,14 +22,16 @@ class wxNotebook;
 class wxSplitterWindow;
 
 namespace workbench {
+class CanvasTip;
 class CommandLine;
 class DrawingCanvas;
+class FrameToolBar;
 class HostServices;
 class PageGroup;
 class PagePanel;
 class VelmSession;
 
-/// The program's window: menu, drawing, command line, and panels with pages at its side and below the drawing.
+/// The program's window: menu, tools, drawing, command line, and panels with pages at its side and below the drawing.
 class MainFrame : public wxFrame, private OdApDocManagerReactor
 {
 public:
@@ -55,8 +59,11 @@ public:
     BranchController& branch() { return m_drawingPanels.branch; }
     PropertiesController& properties() { return m_drawingPanels.properties; }
     EntitiesController& entities() { return m_drawingPanels.entities; }
+    ImagesController& images() { return m_images; }
     PartsController& parts() { return m_parts; }
     UnitsController& units() { return m_units; }
+    ScreensController& screens() { return m_screens; }
+    const CanvasTip& canvasTip() const { return *m_canvasTip; }
     wxNotebook& panels() { return *m_panels; }
     /// Those below, which are seen beside the others.
     wxNotebook& lowerPanels() { return *m_lowerPanels; }
@@ -91,16 +98,20 @@ private:
     LayersController m_layers;
     DimStylesController m_dimStyles;
     DrawingInfo m_drawingInfo;
+    ImagesController m_images;
     DrawingPanels m_drawingPanels;
     PartsController m_parts;
     UnitsController m_units;
     OdGePoint3d m_cursor; // in the coordinates of the drawing
+    ScreensController m_screens;
     Commands m_commands;
     CanvasMenu m_canvasMenu;
     ContextMenuPopup m_contextMenu;
+    std::unique_ptr<CanvasTip> m_canvasTip;
     // All owned by the window tree.
     DrawingCanvas* m_canvas = nullptr;
     CommandLine* m_commandLine = nullptr;
+    FrameToolBar* m_toolBar = nullptr;
     wxNotebook* m_panels = nullptr;
     wxNotebook* m_lowerPanels = nullptr;
     wxNotebook* m_tablePanels = nullptr;
