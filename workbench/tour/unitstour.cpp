@@ -61,7 +61,8 @@ void UnitsTour::calculate()
     m_driver.waitFor("the problem", [&] { return m_driver.hasItem("problem"); });
     m_save("calculator-refuses");
     m_driver.type(")");
-    m_driver.waitFor("the result", [&] { return m_driver.property("result", "text") == "= 15"; });
+    m_driver.waitFor("the result",
+                     [&] { return m_driver.hasItem("result") && m_driver.property("result", "text") == "= 15"; });
     m_save("calculator");
     m_driver.key("Return");
     m_driver.waitForNoDialog();
