@@ -6,7 +6,7 @@ say() { printf '==> %s\n' "$*"; }
 
 build_packages=(
   g++ cmake ninja-build ccache mold pkg-config
-  qt6-base-dev qt6-base-private-dev qt6-declarative-dev qt6-declarative-dev-tools libgl-dev
+  qt6-base-dev qt6-base-private-dev qt6-declarative-dev qt6-declarative-dev-tools qt6-svg-dev libgl-dev
   libwxgtk3.2-dev libgtk-3-dev libdxflib-dev
 )
 run_packages=(
@@ -14,8 +14,8 @@ run_packages=(
   qml6-module-qtquick-window qml6-module-qtquick-shapes qml6-module-qtqml qml6-module-qtqml-models
   qml6-module-qtqml-workerscript libgl1-mesa-dri fonts-dejavu-core adwaita-icon-theme
 )
-# A private X server with a window manager and a hand on mouse and keyboard.
-display_packages=(xvfb xauth openbox xdotool x11-utils)
+# A private X server with a window manager, several monitors, and a hand on mouse and keyboard.
+display_packages=(xvfb xauth openbox xdotool x11-utils x11-xserver-utils)
 test_packages=(qml6-module-qttest)
 
 # install_packages NAME...: installs those that are missing from the system's own package sources.

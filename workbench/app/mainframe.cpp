@@ -1,8 +1,10 @@
 #include "app/mainframe.h"
 
+#include "app/canvastip.h"
 #include "app/drawingcommands.h"
 #include "app/framecommands.h"
 #include "app/framemenu.h"
+#include "app/frametoolbar.h"
 #include "app/hostservices.h"
 #include "app/layercommands.h"
 #include "app/velmsession.h"
@@ -95,6 +97,13 @@ MainFrame::MainFrame(VelmSession& session, HostServices& services, PageGroup& pa
             event.Skip();
         }
     });
+    // Once what is inside the frame has its place too.
+    const auto moved = [this](wxEvent& event) {
+        event.Skip();
+        CallAfter([] { velm::PositionManager::instance().update(); });
+    };
+    Bind(wxEVT_MOVE, moved);
+    Bind(wxEVT_SIZE, moved);
     restoreGeometry();
     applyColours();
     documentBecameCurrent(nullptr);
@@ -136,10 +145,12 @@ void MainFrame::build()
     addPanel(m_panels, "Workbench/LayersPanel.qml", &m_layers, _("Layers"));
     addPanel(m_panels, "Workbench/StructurePanel.qml", &structure(), _("Structure"));
     addPanel(m_panels, "Workbench/BranchPanel.qml", &branch(), _("Branch"));
+    addPanel(m_panels, "Workbench/UnitsPanel.qml", &m_units, _("Units"));
     m_lowerPanels = new wxNotebook(m_panelSplitter, wxID_ANY);
     addPanel(m_lowerPanels, "Workbench/PropertiesPanel.qml", &properties(), _("Properties"));
     addPanel(m_lowerPanels, "Workbench/DrawingPanel.qml", &m_drawingInfo, _("Drawing"));
     addPanel(m_lowerPanels, "Workbench/DeveloperPanel.qml", nullptr, _("Developer"));
+    m_screens.setWindow(addPanel(m_lowerPanels, "Workbench/ScreensPanel.qml", &m_screens, _("Screens")));
 
     m_tablePanels = new wxNotebook(m_tableSplitter, wxID_ANY);
     addPanel(m_tablePanels, "Workbench/EntitiesPanel.qml", &entities(), _("Entities"));
@@ -161,7 +172,10 @@ void MainFrame::build()
     keepSecondPane(*m_panelSplitter, FromDIP(lowerPanelsHeight));
     keepSecondPane(*m_tableSplitter, FromDIP(tablesHeight));
 
-    addMenus(*this, frameActions(*this));
+    const std::vector<Action> actions = frameActions(*this);
+    addMenus(*this, actions);
+    m_toolBar = new FrameToolBar(*this, actions);
+    SetToolBar(m_toolBar);
     for (PagePanel* page : m_pages.pages())
         page->setAcceleratorTable(shortcuts(*GetMenuBar()));
     CreateStatusBar(3, wxSTB_DEFAULT_STYLE & ~wxSTB_SIZEGRIP);
@@ -215,6 +229,7 @@ void MainFrame::connectCanvas()
     });
     QObject::connect(&m_selection, &Selection::changed, &m_selection,
                      [this] { m_canvas->setHighlighted(m_selection.entities()); });
+    m_canvasTip = std::make_unique<CanvasTip>(*m_canvas);
     m_canvas->onMenuWanted = [this] { m_contextMenu.open(); };
     m_canvasMenu.isGridShown = [this] { return m_canvas->isGridShown(); };
     m_canvasMenu.isSnapping = [this] { return m_canvas->isSnapping(); };
@@ -255,6 +270,7 @@ void MainFrame::askForDrawing()
 
 void MainFrame::documentBecameCurrent(OdApDocument* document)
 {
+    m_canvasTip->hide();
     m_canvas->setDatabase(document ? document->database() : nullptr);
     pushUnits();
     SetTitle(document ? wxFileName(document->fileName().c_str()).GetFullName() + " - velm workbench"
@@ -265,6 +281,7 @@ void MainFrame::documentBecameCurrent(OdApDocument* document)
 
 void MainFrame::drawingChanged()
 {
+    m_canvasTip->hide();
     m_canvas->refreshDrawing();
     m_layers.refresh();
     m_dimStyles.refresh();
@@ -272,6 +289,14 @@ void MainFrame::drawingChanged()
     m_images.refresh();
     m_drawingPanels.refresh();
     showState();
+}
+
+void MainFrame::unitsChanged()
+{
+    pushUnits();
+    drawingChanged();
+    if (!GetStatusBar()->GetStatusText(0).empty())
+        showCursor(m_cursor);
 }
 
 void MainFrame::pushUnits()
@@ -283,6 +308,8 @@ void MainFrame::pushUnits()
     settings->setLinearUnitPrecision(units.linearPrecision);
     settings->setAngularUnitPrecision(units.angularPrecision);
     settings->setAngularUnitType(units.angularKind);
+    // The kind of lengths is no setting of its own: fields write their values anew with the precision.
+    Q_EMIT settings->linearUnitPrecisionChanged();
 }
 
 void MainFrame::applyColours()
@@ -290,6 +317,7 @@ void MainFrame::applyColours()
     m_commandLine->setColours(wxGuiColour(ut::EGuiColor::Grey10), wxGuiColour(ut::EGuiColor::PanelBackground),
                               wxGuiColour(ut::EGuiColor::InputBackground));
     m_canvas->Refresh();
+    m_toolBar->setTheme(m_session.theme());
     const bool isDark = m_session.theme() == ut::EGuiColorTheme::Dark;
     m_layers.setDarkBackground(isDark);
     entities().setDarkBackground(isDark);
@@ -307,6 +335,7 @@ void MainFrame::showCursor(const OdGePoint3d& point)
     OdApDocument* document = m_documents.current();
     if (!document)
         return;
+    m_cursor = point;
     const OdUnitsFormatter& formatter = document->database()->formatter();
     SetStatusText(
         wxString::Format("%s,  %s", formatter.formatLinear(point.x).c_str(), formatter.formatLinear(point.y).c_str()),

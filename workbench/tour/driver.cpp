@@ -143,6 +143,11 @@ QQuickItem* Driver::findItem(const QString& name)
     if (const PagePopup* open = popup())
         if (QQuickItem* item = findBelow(open->view()->contentItem(), name, hidden))
             return item;
+    // The popups of pages.
+    for (QWindow* window : QGuiApplication::topLevelWindows())
+        if (auto* page = qobject_cast<QQuickWindow*>(window); page && page->isVisible())
+            if (QQuickItem* item = findBelow(page->contentItem(), name, hidden))
+                return item;
     for (PagePanel* page : m_app.pages().pages())
         if (page->IsShownOnScreen())
             if (QQuickItem* item = findBelow(page->view()->contentItem(), name, hidden))
@@ -219,6 +224,11 @@ void Driver::click(QPoint screen, int button, const QString& modifier)
     // to that window instead of to the page in it. A wheel presses nothing.
     if (button <= 3)
         waitFor("the click to arrive", [&] { return m_presses->count() != before; });
+}
+
+void Driver::moveMouse(QPoint screen)
+{
+    xdotool({"mousemove", QString::number(screen.x()), QString::number(screen.y())});
 }
 
 void Driver::drag(QPoint from, QPoint to, const std::function<void()>& onTheWay)

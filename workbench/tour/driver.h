@@ -62,7 +62,7 @@ public:
     /// Waits until the condition, asked on the program's thread, holds.
     void waitFor(const QString& what, const std::function<bool()>& condition, int milliseconds = 10000);
 
-    // Items of pages by their object names. The item is awaited, in the open popup or any page that is
+    // Items of pages by their object names. The item is awaited, in an open popup or any page that is
     // on the screen. A cell of a table has a name of three parts, as in "layers/Walls/on": the table's, what the row
     // shows in the first column, and the id of the column.
     bool hasItem(const QString& name);
@@ -75,6 +75,7 @@ public:
 
     /// With a key of xdotool's name held, as "shift". Returns when the program has got the press of the button.
     void click(QPoint screen, int button = 1, const QString& modifier = {});
+    void moveMouse(QPoint screen);
     /// Moves the mouse with the left button held. What is asked of `onTheWay` happens before the button is released.
     void drag(QPoint from, QPoint to, const std::function<void()>& onTheWay = {});
     void click(wxWindow& window);

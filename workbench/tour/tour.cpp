@@ -10,7 +10,9 @@
 #include "tour/driver.h"
 #include "tour/imagetour.h"
 #include "tour/paneltour.h"
+#include "tour/screentour.h"
 #include "tour/tabletour.h"
+#include "tour/unitstour.h"
 #include "velm/bridge/conversions.h"
 
 #include <QDir>
@@ -43,7 +45,8 @@ public:
         : m_driver(app), m_frame(*app.frame()), m_folder(folder),
           m_panelTour(m_driver, [this](const QString& name) { save(name); }),
           m_tableTour(m_driver, [this](const QString& name) { save(name); }),
-          m_imageTour(m_driver, [this](const QString& name) { save(name); })
+          m_imageTour(m_driver, [this](const QString& name) { save(name); }),
+          m_screenTour(m_driver, [this](const QString& name) { save(name); })
     {}
 
     int run(bool hasDrawing);
@@ -82,6 +85,7 @@ private:
     PanelTour m_panelTour;
     TableTour m_tableTour;
     ImageTour m_imageTour;
+    ScreenTour m_screenTour;
     QTemporaryDir m_scratch;
     bool m_hasDrawing = false;
     int m_step = 0;
@@ -334,6 +338,7 @@ int Tour::run(bool hasDrawing)
     const auto panels = [this](void (PanelTour::*step)()) { return [this, step](Tour*) { (m_panelTour.*step)(); }; };
     const auto tables = [this](void (TableTour::*step)()) { return [this, step](Tour*) { (m_tableTour.*step)(); }; };
     const auto images = [this](void (ImageTour::*step)()) { return [this, step](Tour*) { (m_imageTour.*step)(); }; };
+    const auto screens = [this](void (ScreenTour::*step)()) { return [this, step](Tour*) { (m_screenTour.*step)(); }; };
     const std::pair<const char*, std::function<void(Tour*)>> steps[] = {
         {"open-drawing", &Tour::openDrawing},
         {"layers-panel", &Tour::switchLayer},
@@ -360,6 +365,10 @@ int Tour::run(bool hasDrawing)
         {"developer-settings", images(&ImageTour::setDeveloperSettings)},
         {"image-zoomed", images(&ImageTour::placePicture)},
         {"tool-icons", images(&ImageTour::showToolIcons)},
+        {"units", [this](Tour*) { UnitsTour(m_driver, [this](const QString& name) { save(name); }).run(); }},
+        {"tool-tip", screens(&ScreenTour::showTip)},
+        {"screens", screens(&ScreenTour::showScreens)},
+        {"popup", screens(&ScreenTour::openPopup)},
         {"broken-page", &Tour::showBrokenPage},
         {"name-refused", &Tour::refuseName},
         {"name-accepted", &Tour::acceptName},
