@@ -36,7 +36,10 @@ FocusScope {
         MouseArea {
             anchors.fill: parent
             enabled: !row.itemIsEnum
-            onClicked: row.model.itemCurrentValue = !row.itemCurrentValue
+            onClicked: {
+                editor.forceActiveFocus();
+                row.model.itemCurrentValue = !row.itemCurrentValue;
+            }
         }
     }
     Loader {
