@@ -33,9 +33,13 @@ FocusScope {
         text: row.itemName
         elide: Text.ElideRight
 
-        TapHandler {
+        MouseArea {
+            anchors.fill: parent
             enabled: !row.itemIsEnum
-            onTapped: row.model.itemCurrentValue = !row.itemCurrentValue
+            onClicked: {
+                editor.forceActiveFocus();
+                row.model.itemCurrentValue = !row.itemCurrentValue;
+            }
         }
     }
     Loader {

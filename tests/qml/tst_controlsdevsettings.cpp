@@ -66,6 +66,7 @@ void TestControlsDevSettings::whatAPageDeclaresIsSetByMouseAndKeyboard()
     QVERIFY(model(shown)->enabled(QStringLiteral("a")));
     shown.press(Qt::Key_Space);
     QVERIFY(!model(shown)->enabled(QStringLiteral("a")));
+    shown.press(Qt::Key_Tab);
     shown.click(row(shown, 0)->findChild<QQuickItem*>(QStringLiteral("label")));
     QVERIFY(model(shown)->enabled(QStringLiteral("a")));
     QVERIFY(editor(shown, 0)->property("checked").toBool());

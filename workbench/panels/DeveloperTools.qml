@@ -31,7 +31,8 @@ Item {
     }
 
     function collect(item: Item, found) {
-        for (const child of item.children) {
+        for (let i = 0; i < item.children.length; ++i) {
+            const child = item.children[i];
             if (!child.visible || child.width <= 0 || child.height <= 0)
                 continue;
             found.push(child.mapToItem(tools, 0, 0, child.width, child.height));
@@ -76,6 +77,7 @@ Item {
         Rectangle {
             required property rect modelData
 
+            objectName: "bounds"
             x: modelData.x
             y: modelData.y
             width: modelData.width

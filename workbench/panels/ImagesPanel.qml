@@ -63,24 +63,36 @@ PanelPage {
                     onClicked: page.controller.askForFile()
                 }
             }
-            Row {
-                spacing: 2
+            RowLayout {
+                Row {
+                    spacing: 2
 
-                Repeater {
-                    model: [qsTr("Stretch"), qsTr("Fit"), qsTr("Fill"), qsTr("Zoom")]
+                    Repeater {
+                        model: [qsTr("Stretch"), qsTr("Fit"), qsTr("Fill"), qsTr("Zoom")]
 
-                    ToolButton {
-                        required property int index
-                        required property string modelData
+                        ToolButton {
+                            required property int index
+                            required property string modelData
 
-                        objectName: "mode:" + modelData
-                        focusPolicy: Qt.TabFocus
-                        leftPadding: Metrics.padding
-                        rightPadding: Metrics.padding
-                        text: modelData
-                        checked: preview.mode === index
-                        onClicked: preview.mode = index
+                            objectName: "mode:" + modelData
+                            focusPolicy: Qt.TabFocus
+                            leftPadding: Metrics.padding
+                            rightPadding: Metrics.padding
+                            text: modelData
+                            checked: preview.mode === index
+                            onClicked: preview.mode = index
+                        }
                     }
+                }
+                Item {
+                    Layout.fillWidth: true
+                }
+                CheckBox {
+                    id: smoothed
+
+                    objectName: "smoothed"
+                    checked: true
+                    text: qsTr("&Smooth")
                 }
             }
             RowLayout {
@@ -103,13 +115,6 @@ PanelPage {
                     horizontalAlignment: Text.AlignRight
                     text: qsTr("%1 %").arg(Math.round(100 * Math.pow(2, zoom.value)))
                 }
-            }
-            CheckBox {
-                id: smoothed
-
-                objectName: "smoothed"
-                checked: true
-                text: qsTr("&Smooth")
             }
             InfoRows {
                 Layout.fillWidth: true

@@ -206,7 +206,7 @@ void ImagesController::askForFile()
 
 QImage ImagesController::strip(const QString& icon, bool isDark) const
 {
-    constexpr int gap = 8;
+    constexpr int gap = 6;
     const auto& sizes = velm::BitmapLookupSize::s_lookup;
     const int width = std::accumulate(sizes.begin(), sizes.end(), gap) + gap * static_cast<int>(sizes.size());
     QImage strip(width, sizes.back() + 2 * gap, QImage::Format_ARGB32_Premultiplied);

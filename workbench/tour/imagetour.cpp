@@ -31,6 +31,8 @@ void ImageTour::setDeveloperSettings()
     waitToRead("bounds: true");
     m_driver.clickItem("setting:Show the count of frames");
     waitToRead("frames: true");
+    m_driver.waitFor("the bounds", [&] { return m_driver.hasItem("bounds"); });
+    m_driver.waitFor("counted frames", [&] { return m_driver.property("frameCount", "text") != "Frame 0"; });
     saveLight("developer-settings-light");
     m_driver.clickItem("setting:Show the bounds of items");
     waitToRead("bounds: false");
