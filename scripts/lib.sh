@@ -6,7 +6,7 @@ say() { printf '==> %s\n' "$*"; }
 
 build_packages=(
   g++ cmake ninja-build ccache mold pkg-config
-  qt6-base-dev qt6-base-private-dev qt6-declarative-dev qt6-declarative-dev-tools libgl-dev
+  qt6-base-dev qt6-base-private-dev qt6-declarative-dev qt6-declarative-dev-tools qt6-svg-dev libgl-dev
   libwxgtk3.2-dev libgtk-3-dev libdxflib-dev
 )
 run_packages=(

@@ -11,7 +11,8 @@ namespace {
 constexpr double degreesPerRadian = 180.0 / std::numbers::pi;
 constexpr double gradsPerRadian = 200.0 / std::numbers::pi;
 constexpr double inchesPerFoot = 12.0;
-constexpr char degreeSign[] = "\xc2\xb0"; // UTF-8
+constexpr double mostFeet = 9007199254740992.0; // above it a double skips feet, so inches are written alone
+constexpr char degreeSign[] = "\xc2\xb0";       // UTF-8
 
 std::string numberText(double value, std::chars_format format, int precision)
 {
@@ -28,6 +29,9 @@ std::string fixed(double value, int precision)
 std::string scientific(double value, int precision)
 {
     std::string text = numberText(value, std::chars_format::scientific, precision);
+    // Rounded up, the largest numbers would be none: they are written in full.
+    if (double read = 0.0; std::from_chars(text.data(), text.data() + text.size(), read).ec != std::errc())
+        text = numberText(value, std::chars_format::scientific, 16);
     std::ranges::replace(text, 'e', 'E');
     return text;
 }
@@ -76,6 +80,8 @@ std::string feetAndInches(double feet, const std::string& inches)
 
 std::string engineering(double value, int precision)
 {
+    if (value > mostFeet)
+        return fixed(value, 0) + '"';
     const double rest = std::fmod(value, inchesPerFoot);
     double feet = (value - rest) / inchesPerFoot;
     std::string inches = fixed(rest, precision);
@@ -88,6 +94,8 @@ std::string engineering(double value, int precision)
 
 std::string architectural(double value, int precision)
 {
+    if (value > mostFeet)
+        return fixed(value, 0) + '"';
     const double rest = std::fmod(value, inchesPerFoot);
     double feet = (value - rest) / inchesPerFoot;
     Mixed inches(rest, precision);

@@ -27,6 +27,8 @@ struct OdUnits
     AngularKind angularKind = kDecimalDegrees;
     int angularPrecision = 0; ///< decimals 0 to 8; for degrees, minutes and seconds: 0 degrees, 1 to 2 with minutes, 3
                               ///< to 4 with seconds, above that decimals of a second
+
+    bool operator==(const OdUnits&) const = default;
 };
 
 /// Turns lengths (drawing units; inches for the feet kinds) and angles (radians) into the drawing's text and back.

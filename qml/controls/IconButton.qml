@@ -4,12 +4,13 @@ import Tandolin
 import Tandolin.API.Core.Themes
 import Tandolin.API.Resources
 
-// A flat button with a picture alone: one of the marks, or an icon. Its text is for the tool tip.
+// A flat button with a picture alone: one of the marks, a tool icon, or an icon. Its text is for the tool tip.
 ToolButton {
     id: control
 
     property string mark
     property color markColor: enabled ? Colors.text : Colors.textDisabled
+    property string toolIcon
 
     display: AbstractButton.IconOnly
     // A panel's buttons leave the keyboard where it is, but Tab reaches them.
@@ -25,5 +26,11 @@ ToolButton {
         visible: control.mark !== ""
         name: control.mark
         color: control.markColor
+    }
+
+    ToolIcon {
+        anchors.centerIn: parent
+        name: control.toolIcon
+        size: Metrics.markSize
     }
 }

@@ -13,7 +13,7 @@ PanelPage {
         TabBar { TabButton { text: "Tab" } } ScrollView { TextArea {} } SplitView { Item {} Item {} }
         Menu { MenuItem { text: "&Item" } MenuSeparator {} Menu { title: "More"; MenuItem { checkable: true } } }
         Popup { Label {} } ToolTip {}
-        IconButton { mark: "add"; text: "Add" } SearchField {} ColorSwatch { diagonal: true } DialogButtons {}
+        IconButton { mark: "add"; text: "Add" } IconButton { toolIcon: "line"; text: "Line" } SearchField {} ColorSwatch { diagonal: true } DialogButtons {}
         PlainListView { model: ["a", "b"] } ModelTable {} PlaceholderMessage { mark: "info"; text: "Nothing" } Mark { name: "check" }
         Label { text: Settings.tooltipDelay + QtFontConfig.defaultRenderType }
     }

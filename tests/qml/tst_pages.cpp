@@ -24,6 +24,7 @@ private Q_SLOTS:
     void theNameDialogAsksForItsEnd();
     void anIconButtonIsClickedByMouseAndKeyboard();
     void aToolTipWaitsForTheSettings();
+    void aToolIconFollowsThemeAndName();
     void theSearchFieldIsEmptied();
     void aFieldHasAMenuToEditItsText();
     void aListIsWalkedByKeyboard_data();
@@ -180,6 +181,30 @@ void TestPages::aToolTipWaitsForTheSettings()
     QCOMPARE(root->property("tip").toString(), QStringLiteral("Add"));
     Settings::instance()->setTooltips(false);
     QTRY_VERIFY(!root->property("shown").toBool());
+}
+
+void TestPages::aToolIconFollowsThemeAndName()
+{
+    std::unique_ptr<QObject> page = load("import Tandolin.API.Core.Themes.Engine\n"
+                                         "Item { ToolIcon { objectName: 'icon'; size: 30 }\n"
+                                         "function setTheme(theme: int) { Theme.setColorTheme(theme) } }");
+    QVERIFY(page);
+    QQuickItem* icon = page->findChild<QQuickItem*>(QStringLiteral("icon"));
+    QQuickItem* picture = icon->childItems().first();
+    const auto shown = [picture] { return picture->property("source").toUrl().toString(); };
+    QCOMPARE(icon->implicitWidth(), 30.0);
+    QCOMPARE(shown(), QString());
+    icon->setProperty("name", QStringLiteral("line"));
+    QCOMPARE(shown(), QStringLiteral("qrc:/toolicons/32/dark/line.png"));
+    QCOMPARE(picture->implicitWidth(), 32.0);
+    QMetaObject::invokeMethod(page.get(), "setTheme", Q_ARG(int, 1));
+    QCOMPARE(shown(), QStringLiteral("qrc:/toolicons/32/light/line.png"));
+    icon->setProperty("size", 100);
+    QCOMPARE(shown(), QStringLiteral("qrc:/toolicons/64/light/line.png"));
+    // No warning either, and nothing of the former icon.
+    icon->setProperty("name", QStringLiteral("no such"));
+    QCOMPARE(shown(), QString());
+    QCOMPARE(picture->implicitWidth(), 0.0);
 }
 
 void TestPages::theSearchFieldIsEmptied()

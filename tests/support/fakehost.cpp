@@ -138,9 +138,11 @@ bool FakeDialogFactory::loadLineTypesDialog(wxWindow*, OdDbDatabase*, OdArray<Od
     return loadLineTypes && loadLineTypes(loaded);
 }
 
-bool FakeDialogFactory::quickCalculator(wxWindow*, OdDbEvalVariantPtr& value, bool modal)
+bool FakeDialogFactory::quickCalculator(wxWindow* parent, OdDbEvalVariantPtr& value, bool modal)
 {
-    log += QString("calculator %1%2").arg(value ? QString::number(value->getAsDouble()) : "-", modal ? " modal" : "");
+    log +=
+        QString("calculator %1%2%3")
+            .arg(value ? QString::number(value->getAsDouble()) : "-", modal ? " modal" : "", parent ? " parent" : "");
     return calculate && calculate(value);
 }
 

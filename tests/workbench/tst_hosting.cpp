@@ -13,6 +13,10 @@
 
 using namespace workbench;
 
+namespace {
+const QString onItsWay = QStringLiteral("panel");
+}
+
 /// Pages in the windows of the host, worked by mouse and keyboard. One program serves all tests; each begins with the
 /// small drawing open, the panel of layers in front and the keyboard in the command line.
 class HostingTest : public QObject
@@ -49,7 +53,8 @@ private:
     QString write(const QString& name, const QByteArray& text);
     void clickSearchField();
     void startRenaming();
-    /// Where the keyboard is: the name of a page's item, or of a window of the host.
+    /// Where the keyboard is: the name of a page's item, or of a window of the host. A panel that has just got it is
+    /// about to hand it on to its page.
     QString keyboardPlace();
     void waitForKeyboard(const QString& place);
     QStringList walk(const QString& keys, int steps);
@@ -120,6 +125,8 @@ QString HostingTest::keyboardPlace()
         const wxWindow* window = wxWindow::FindFocus();
         if (window == m_frame.commandLine().input())
             return "input";
+        if (dynamic_cast<const PagePanel*>(window))
+            return onItsWay;
         return window ? velm::toQt(window->GetClassInfo()->GetClassName()) : QString();
     });
 }
@@ -145,7 +152,8 @@ QStringList HostingTest::walk(const QString& keys, int steps)
     for (int step = 0; step < steps; ++step) {
         m_driver.key(keys);
         QString next;
-        m_driver.waitFor("the keyboard to leave " + place, [&] { return (next = keyboardPlace()) != place; });
+        m_driver.waitFor("the keyboard to leave " + place,
+                         [&] { return (next = keyboardPlace()) != place && next != onItsWay; });
         places << (place = next);
     }
     return places;

@@ -16,11 +16,6 @@ bool isPowerOfTwo(int size)
 {
     return (size & (size - 1)) == 0;
 }
-
-int scaled(int size, double scale)
-{
-    return static_cast<int>(size * (scale == -1.0 ? 1.0 : scale));
-}
 } // namespace
 
 const std::array<int, 9> BitmapLookupSize::s_lookup = {16, 20, 24, 28, 32, 40, 48, 56, 64};
@@ -42,7 +37,9 @@ BitmapLookupSize::~BitmapLookupSize() = default;
 
 void BitmapLookupSize::initArray()
 {
-    const int target = scaled(m_baseSize == -1 ? defaultSize : m_baseSize, m_scale);
+    if (m_baseSize == -1)
+        m_baseSize = defaultSize;
+    const int target = getTargetSize();
     const auto distance = [target](int size) { return std::abs(size - target); };
     int count = 0;
     const auto append = [&](int size) {
@@ -78,6 +75,6 @@ int BitmapLookupSize::getNextLoadSize()
 
 int BitmapLookupSize::getTargetSize() const
 {
-    return scaled(m_baseSize, m_scale);
+    return static_cast<int>(m_baseSize * (m_scale == -1.0 ? 1.0 : m_scale));
 }
 } // namespace velm

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 #include <wx/accel.h>
 #include <wx/string.h>
 
@@ -10,7 +12,8 @@ class wxFrame;
 class wxMenuBar;
 
 namespace workbench {
-/// One thing that a person can have done from the menu, by its shortcut, or from a page by the same shortcut.
+/// One thing that a person can have done from the menu, by its shortcut, from a page by the same shortcut, or by a
+/// tool.
 struct Action
 {
     wxString menu;
@@ -20,6 +23,7 @@ struct Action
     std::function<void()> run;
     std::function<bool()> isChecked; ///< an entry with a mark; empty for one without
     std::function<bool()> isEnabled; ///< empty for one that always is
+    QString icon{};                  ///< the tool's; empty for one without a tool
 };
 
 /// Gives a frame a menu bar with the actions, in their order.

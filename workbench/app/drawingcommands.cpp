@@ -5,6 +5,10 @@
 #include "drawing/drawingcanvas.h"
 #include "drawing/entitykind.h"
 #include "od/oddbdatabase.h"
+#include "units/unitsdialogcontroller.h"
+#include "velm/bridge/externalfunctions.h"
+#include "velm/bridge/iguicontroller.h"
+#include "velm/dialogs/ihostdialog.h"
 
 namespace workbench {
 namespace {
@@ -46,6 +50,23 @@ void setCurrentLayer(MainFrame& frame, const wxString& name)
     if (const auto* current = database->currentLayer().open<OdDbLayerTableRecord>())
         frame.commandLine().log(wxString::Format(_("Current layer: %s"), current->getName().c_str()));
 }
+
+void editUnits(MainFrame& frame)
+{
+    OdApDocument* document = frame.documents().current();
+    if (!document) {
+        frame.commandLine().log(_("No drawing is open."));
+        return;
+    }
+    UnitsDialogController controller(document->database()->formatter().units());
+    const auto dialog = velm::guiController()->createDialog(velm::getUIFullUrl("Workbench/UnitsDialog.qml"),
+                                                            &controller, &frame, {}, nullptr);
+    // The drawing may be closed meanwhile.
+    if (dialog->showModal() != wxID_OK || frame.documents().current() != document)
+        return;
+    document->database()->formatter().setUnits(controller.units());
+    frame.unitsChanged();
+}
 } // namespace
 
 void addDrawingCommands(Commands& commands, MainFrame& frame)
@@ -71,6 +92,8 @@ void addDrawingCommands(Commands& commands, MainFrame& frame)
                  });
     commands.add("LAYER", _("Makes a layer the current one: LAYER name, or LAYER alone to tell which it is"),
                  [&frame](const wxString& name) { setCurrentLayer(frame, name); });
+    commands.add("UNITS", _("Changes how the drawing writes lengths and angles"),
+                 [&frame](const wxString&) { editUnits(frame); });
     commands.add("ERASE", _("Erases what is selected"), [&frame](const wxString&) { eraseSelected(frame); });
 }
 } // namespace workbench

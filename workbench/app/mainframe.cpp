@@ -4,6 +4,7 @@
 #include "app/drawingcommands.h"
 #include "app/framecommands.h"
 #include "app/framemenu.h"
+#include "app/frametoolbar.h"
 #include "app/hostservices.h"
 #include "app/layercommands.h"
 #include "app/velmsession.h"
@@ -27,6 +28,8 @@
 
 #include <QDir>
 
+#include <memory>
+
 namespace workbench {
 namespace {
 constexpr int sideWidth = 380;
@@ -36,17 +39,24 @@ constexpr int tablesHeight = 270;
 const OdString rectKey = L"MainWindow/Rectangle";
 const OdString maximizedKey = L"MainWindow/Maximized";
 
-/// Gives the second pane of a splitter its size, in pixels, once the splitter has got a size to share: before that the
-/// position would be cut down to the little that there is.
-void placeSash(wxSplitterWindow& splitter, int size)
+/// Keeps the second pane of a splitter at this size, in pixels, or at what a person's hand makes of it, as far as the
+/// splitter has room. The place is wished for anew with each size: the window gets several before it is on the screen,
+/// some of them tiny, and a sash must not stay where one of those pressed it.
+void keepSecondPane(wxSplitterWindow& splitter, int size)
 {
-    splitter.Bind(wxEVT_SIZE, [&splitter, size, placed = false](wxSizeEvent& event) mutable {
+    const auto wanted = std::make_shared<int>(size);
+    splitter.Bind(wxEVT_SIZE, [&splitter, wanted](wxSizeEvent& event) {
+        // The splitter itself, which comes next, places the panes by it.
+        splitter.SetSashPosition(-*wanted, false);
         event.Skip();
-        const bool sideBySide = splitter.GetSplitMode() == wxSPLIT_VERTICAL;
-        if (placed || (sideBySide ? event.GetSize().x : event.GetSize().y) < 2 * size)
+    });
+    splitter.Bind(wxEVT_SPLITTER_SASH_POS_CHANGED, [&splitter, wanted](wxSplitterEvent& event) {
+        event.Skip();
+        // Splitters within this one tell it of theirs, too.
+        if (event.GetEventObject() != &splitter)
             return;
-        placed = true;
-        splitter.CallAfter([&splitter, size] { splitter.SetSashPosition(-size); });
+        const wxSize all = splitter.GetClientSize();
+        *wanted = (splitter.GetSplitMode() == wxSPLIT_VERTICAL ? all.x : all.y) - event.GetSashPosition();
     });
 }
 } // namespace
@@ -56,8 +66,8 @@ MainFrame::MainFrame(VelmSession& session, HostServices& services, PageGroup& pa
       m_services(services), m_pages(pages), m_documents(services.documents(), services.dialogs(), pages),
       m_selection(services.documents()), m_layers(services.documents(), services.dialogs()),
       m_dimStyles(services.documents(), services.dialogs()), m_drawingInfo(services.documents()),
-      m_drawingPanels(services.documents(), m_selection), m_canvasMenu(services.documents(), m_selection),
-      m_contextMenu(pages, *this, m_canvasMenu)
+      m_images(services.documents()), m_drawingPanels(services.documents(), m_selection),
+      m_canvasMenu(services.documents(), m_selection), m_contextMenu(pages, *this, m_canvasMenu)
 {
     build();
     addCommands();
@@ -135,34 +145,37 @@ void MainFrame::build()
     addPanel(m_panels, "Workbench/LayersPanel.qml", &m_layers, _("Layers"));
     addPanel(m_panels, "Workbench/StructurePanel.qml", &structure(), _("Structure"));
     addPanel(m_panels, "Workbench/BranchPanel.qml", &branch(), _("Branch"));
+    addPanel(m_panels, "Workbench/UnitsPanel.qml", &m_units, _("Units"));
     m_lowerPanels = new wxNotebook(m_panelSplitter, wxID_ANY);
     addPanel(m_lowerPanels, "Workbench/PropertiesPanel.qml", &properties(), _("Properties"));
     addPanel(m_lowerPanels, "Workbench/DrawingPanel.qml", &m_drawingInfo, _("Drawing"));
+    addPanel(m_lowerPanels, "Workbench/DeveloperPanel.qml", nullptr, _("Developer"));
     m_screens.setWindow(addPanel(m_lowerPanels, "Workbench/ScreensPanel.qml", &m_screens, _("Screens")));
 
     m_tablePanels = new wxNotebook(m_tableSplitter, wxID_ANY);
     addPanel(m_tablePanels, "Workbench/EntitiesPanel.qml", &entities(), _("Entities"));
     addPanel(m_tablePanels, "Workbench/DimStylesPanel.qml", &m_dimStyles, _("Dimension Styles"));
     addPanel(m_tablePanels, "Workbench/PartsPanel.qml", &m_parts, _("Million Rows"));
+    addPanel(m_tablePanels, "Workbench/ImagesPanel.qml", &m_images, _("Images"));
+    addPanel(m_tablePanels, "Workbench/ToolIconsPanel.qml", &m_images, _("Tool Icons"));
 
     m_lowerSplitter->SetMinimumPaneSize(FromDIP(90));
-    m_lowerSplitter->SetSashGravity(1.0);
     m_sideSplitter->SetMinimumPaneSize(FromDIP(200));
-    m_sideSplitter->SetSashGravity(1.0);
     m_panelSplitter->SetMinimumPaneSize(FromDIP(120));
-    m_panelSplitter->SetSashGravity(1.0);
     m_sideSplitter->SplitVertically(m_lowerSplitter, m_panelSplitter);
     m_panelSplitter->SplitHorizontally(m_panels, m_lowerPanels);
     m_tableSplitter->SetMinimumPaneSize(FromDIP(120));
-    m_tableSplitter->SetSashGravity(1.0);
     m_lowerSplitter->SplitHorizontally(m_tableSplitter, m_commandLine);
     m_tableSplitter->SplitHorizontally(m_canvas, m_tablePanels);
-    placeSash(*m_sideSplitter, FromDIP(sideWidth));
-    placeSash(*m_lowerSplitter, FromDIP(lowerHeight));
-    placeSash(*m_panelSplitter, FromDIP(lowerPanelsHeight));
-    placeSash(*m_tableSplitter, FromDIP(tablesHeight));
+    keepSecondPane(*m_sideSplitter, FromDIP(sideWidth));
+    keepSecondPane(*m_lowerSplitter, FromDIP(lowerHeight));
+    keepSecondPane(*m_panelSplitter, FromDIP(lowerPanelsHeight));
+    keepSecondPane(*m_tableSplitter, FromDIP(tablesHeight));
 
-    addMenus(*this, frameActions(*this));
+    const std::vector<Action> actions = frameActions(*this);
+    addMenus(*this, actions);
+    m_toolBar = new FrameToolBar(*this, actions);
+    SetToolBar(m_toolBar);
     for (PagePanel* page : m_pages.pages())
         page->setAcceleratorTable(shortcuts(*GetMenuBar()));
     CreateStatusBar(3, wxSTB_DEFAULT_STYLE & ~wxSTB_SIZEGRIP);
@@ -273,8 +286,17 @@ void MainFrame::drawingChanged()
     m_layers.refresh();
     m_dimStyles.refresh();
     m_drawingInfo.refresh();
+    m_images.refresh();
     m_drawingPanels.refresh();
     showState();
+}
+
+void MainFrame::unitsChanged()
+{
+    pushUnits();
+    drawingChanged();
+    if (!GetStatusBar()->GetStatusText(0).empty())
+        showCursor(m_cursor);
 }
 
 void MainFrame::pushUnits()
@@ -286,6 +308,8 @@ void MainFrame::pushUnits()
     settings->setLinearUnitPrecision(units.linearPrecision);
     settings->setAngularUnitPrecision(units.angularPrecision);
     settings->setAngularUnitType(units.angularKind);
+    // The kind of lengths is no setting of its own: fields write their values anew with the precision.
+    Q_EMIT settings->linearUnitPrecisionChanged();
 }
 
 void MainFrame::applyColours()
@@ -293,9 +317,11 @@ void MainFrame::applyColours()
     m_commandLine->setColours(wxGuiColour(ut::EGuiColor::Grey10), wxGuiColour(ut::EGuiColor::PanelBackground),
                               wxGuiColour(ut::EGuiColor::InputBackground));
     m_canvas->Refresh();
+    m_toolBar->setTheme(m_session.theme());
     const bool isDark = m_session.theme() == ut::EGuiColorTheme::Dark;
     m_layers.setDarkBackground(isDark);
     entities().setDarkBackground(isDark);
+    m_images.setDarkBackground(isDark);
     wxStatusBar* bar = GetStatusBar();
     bar->SetBackgroundColour(wxGuiColour(ut::EGuiColor::PanelsetIconStripBase));
     bar->SetForegroundColour(wxGuiColour(ut::EGuiColor::Grey8));
@@ -309,6 +335,7 @@ void MainFrame::showCursor(const OdGePoint3d& point)
     OdApDocument* document = m_documents.current();
     if (!document)
         return;
+    m_cursor = point;
     const OdUnitsFormatter& formatter = document->database()->formatter();
     SetStatusText(
         wxString::Format("%s,  %s", formatter.formatLinear(point.x).c_str(), formatter.formatLinear(point.y).c_str()),

@@ -9,9 +9,11 @@
 #include "od/odge.h"
 #include "panels/dimstylescontroller.h"
 #include "panels/drawinginfo.h"
+#include "panels/imagescontroller.h"
 #include "panels/layerscontroller.h"
 #include "panels/partscontroller.h"
 #include "panels/screenscontroller.h"
+#include "units/unitscontroller.h"
 
 #include <wx/frame.h>
 
@@ -23,12 +25,13 @@ namespace workbench {
 class CanvasTip;
 class CommandLine;
 class DrawingCanvas;
+class FrameToolBar;
 class HostServices;
 class PageGroup;
 class PagePanel;
 class VelmSession;
 
-/// The program's window: menu, drawing, command line, and panels with pages at its side and below the drawing.
+/// The program's window: menu, tools, drawing, command line, and panels with pages at its side and below the drawing.
 class MainFrame : public wxFrame, private OdApDocManagerReactor
 {
 public:
@@ -42,6 +45,8 @@ public:
     void tryPage(const wxString& file);
     /// To call after a change of what is in the drawing.
     void drawingChanged();
+    /// To call after a change of how the drawing writes values: all that shows some is written anew.
+    void unitsChanged();
 
     VelmSession& session() { return m_session; }
     Documents& documents() { return m_documents; }
@@ -54,7 +59,9 @@ public:
     BranchController& branch() { return m_drawingPanels.branch; }
     PropertiesController& properties() { return m_drawingPanels.properties; }
     EntitiesController& entities() { return m_drawingPanels.entities; }
+    ImagesController& images() { return m_images; }
     PartsController& parts() { return m_parts; }
+    UnitsController& units() { return m_units; }
     ScreensController& screens() { return m_screens; }
     const CanvasTip& canvasTip() const { return *m_canvasTip; }
     wxNotebook& panels() { return *m_panels; }
@@ -91,8 +98,11 @@ private:
     LayersController m_layers;
     DimStylesController m_dimStyles;
     DrawingInfo m_drawingInfo;
+    ImagesController m_images;
     DrawingPanels m_drawingPanels;
     PartsController m_parts;
+    UnitsController m_units;
+    OdGePoint3d m_cursor; // in the coordinates of the drawing
     ScreensController m_screens;
     Commands m_commands;
     CanvasMenu m_canvasMenu;
@@ -101,6 +111,7 @@ private:
     // All owned by the window tree.
     DrawingCanvas* m_canvas = nullptr;
     CommandLine* m_commandLine = nullptr;
+    FrameToolBar* m_toolBar = nullptr;
     wxNotebook* m_panels = nullptr;
     wxNotebook* m_lowerPanels = nullptr;
     wxNotebook* m_tablePanels = nullptr;

@@ -52,7 +52,8 @@ bool WorkbenchApp::OnInit()
     m_frame = new MainFrame(*m_session, *m_services, *m_pages);
     m_frame->Show();
     // Objects that a page deletes later wait for an event loop of their toolkit to end, and there is none.
-    Bind(wxEVT_IDLE, [](wxIdleEvent& event) {
+    Bind(wxEVT_IDLE, [this](wxIdleEvent& event) {
+        ++m_restCount;
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         event.Skip();
     });

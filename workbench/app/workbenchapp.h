@@ -26,6 +26,8 @@ public:
 
     MainFrame* frame() const { return m_frame; }
     PageGroup& pages() { return *m_pages; }
+    /// How often there was nothing left to do.
+    unsigned restCount() const { return m_restCount; }
     int exitCode = 0;
 
 private:
@@ -33,6 +35,7 @@ private:
     int OnRun() override;
     int OnExit() override;
 
+    unsigned m_restCount = 0;
     QString m_drawing;
     QString m_tourFolder;
     std::unique_ptr<PageGroup> m_pages;

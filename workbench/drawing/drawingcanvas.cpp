@@ -102,19 +102,8 @@ bool DrawingCanvas::zoomTo(const std::vector<OdDbObjectId>& entities)
 
 void DrawingCanvas::fit(const Box& box)
 {
-    constexpr double filled = 0.92;         // of the canvas
-    constexpr double smallestExtent = 10.0; // units, for drawings that are all in one place
     m_view.size = GetClientSize();
-    m_view.center =
-        box.isEmpty() ? OdGePoint3d() : OdGePoint3d{(box.left + box.right) / 2.0, (box.bottom + box.top) / 2.0, 0.0};
-    double width = box.isEmpty() ? 0.0 : box.right - box.left;
-    double height = box.isEmpty() ? 0.0 : box.top - box.bottom;
-    // What is smaller than the precision of its coordinates is one place.
-    if (std::max(width, height) <= 1e-12 * std::max({std::abs(m_view.center.x), std::abs(m_view.center.y), 1.0}))
-        width = height = smallestExtent;
-    const double perUnitX = width > 0.0 ? std::max(m_view.size.x, 1) / width : INFINITY;
-    const double perUnitY = height > 0.0 ? std::max(m_view.size.y, 1) / height : INFINITY;
-    m_view.scale = filled * std::min(perUnitX, perUnitY);
+    m_view.fit(box);
 }
 
 void DrawingCanvas::zoomBy(double factor, wxPoint center)

@@ -114,6 +114,22 @@ Box DrawingView::visible() const
     return box;
 }
 
+void DrawingView::fit(const Box& box)
+{
+    constexpr double filled = 0.92;         // of the size
+    constexpr double smallestExtent = 10.0; // units, for drawings that are all in one place
+    center =
+        box.isEmpty() ? OdGePoint3d() : OdGePoint3d{(box.left + box.right) / 2.0, (box.bottom + box.top) / 2.0, 0.0};
+    double width = box.isEmpty() ? 0.0 : box.right - box.left;
+    double height = box.isEmpty() ? 0.0 : box.top - box.bottom;
+    // What is smaller than the precision of its coordinates is one place.
+    if (std::max(width, height) <= 1e-12 * std::max({std::abs(center.x), std::abs(center.y), 1.0}))
+        width = height = smallestExtent;
+    const double perUnitX = width > 0.0 ? std::max(size.x, 1) / width : INFINITY;
+    const double perUnitY = height > 0.0 ? std::max(size.y, 1) / height : INFINITY;
+    scale = filled * std::min(perUnitX, perUnitY);
+}
+
 DrawingPainter::DrawingPainter(wxGraphicsContext& context, const DrawingView& view, const wxColour& background)
     : m_context(context), m_view(view), m_background(background), m_stroke(std::make_unique<Stroke>())
 {}

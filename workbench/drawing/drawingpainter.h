@@ -23,6 +23,8 @@ struct DrawingView
     wxPoint2DDouble toScreen(double x, double y) const;
     OdGePoint3d toWorld(double x, double y) const;
     Box visible() const;
+    /// Shows all of the box in the size that the view has.
+    void fit(const Box& box);
 };
 
 /// Draws what is in view. Lines have the width that their weight suggests, one to four pixels; dashes have their

@@ -1,9 +1,14 @@
 #include "host/dialogfactory.h"
 
 #include "host/messagedialog.h"
+#include "host/pagedialog.h"
 #include "host/pagegroup.h"
+#include "units/calculatorcontroller.h"
+#include "velm/bridge/externalfunctions.h"
 
 #include <wx/colordlg.h>
+
+#include <limits>
 
 namespace workbench {
 DialogFactory::DialogFactory(PageGroup& pages) : m_pages(pages)
@@ -36,5 +41,15 @@ std::optional<OdCmColor> DialogFactory::colorDialog(wxWindow* parent, const OdCm
         return {};
     const wxColour colour = dialog.GetColourData().GetColour();
     return OdCmColor::fromRGB(colour.Red(), colour.Green(), colour.Blue());
+}
+
+bool DialogFactory::quickCalculator(wxWindow* parent, OdDbEvalVariantPtr& value, bool)
+{
+    CalculatorController controller(value ? value->getAsDouble() : std::numeric_limits<double>::quiet_NaN());
+    HostDialog dialog(m_pages, velm::getUIFullUrl("Workbench/CalculatorDialog.qml"), &controller, parent, {});
+    if (dialog.showModal() != wxID_OK)
+        return false;
+    value = OdDbEvalVariant::init(controller.value());
+    return true;
 }
 } // namespace workbench

@@ -5,8 +5,8 @@
 namespace workbench {
 class PageGroup;
 
-/// The host's dialogs: message boxes and the colour dialog. The dialog that loads linetypes and the calculator don't
-/// exist in this host and answer as if they were cancelled.
+/// The host's dialogs: message boxes, the colour dialog and the calculator. The dialog that loads linetypes doesn't
+/// exist in this host and answers as if it were cancelled.
 class DialogFactory : public velm::IDialogFactory
 {
 public:
@@ -22,7 +22,8 @@ public:
     {
         return false;
     }
-    bool quickCalculator(wxWindow*, OdDbEvalVariantPtr&, bool) override { return false; }
+    /// Cancelled, it leaves the variant as it was.
+    bool quickCalculator(wxWindow* parent, OdDbEvalVariantPtr& value, bool) override;
 
 private:
     wxWindow* parentFor(wxWindow* parent) const;

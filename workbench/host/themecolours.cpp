@@ -34,6 +34,9 @@ menu menuitem:hover { background-color: @hover@; color: @text@; }
 menuitem:disabled, menuitem:disabled label { color: @dim@; }
 menuitem accelerator { color: @secondary@; }
 menu separator { background-color: @line@; margin: 3px 0; }
+toolbar { background-color: @ribbon@; background-image: none; box-shadow: inset 0 -1px @line@; padding: 2px 4px 3px; }
+toolbar button { background-color: transparent; border-color: transparent; padding: 2px; }
+toolbar separator { background-color: @line@; min-width: 1px; margin: 5px 4px; }
 notebook, notebook > stack { background-color: @panel@; }
 notebook > header { background-color: @strip@; border: none; padding: 0; }
 notebook > header.top { box-shadow: inset 0 -1px @line@; }

@@ -9,6 +9,7 @@
 #include <QColor>
 
 #include <algorithm>
+#include <utility>
 
 namespace workbench {
 namespace {
@@ -52,6 +53,7 @@ void EntityTableModel::setDatabase(OdDbDatabase* database)
     m_database = database;
     m_texts = {};
     m_rows = collect();
+    m_units = database ? database->formatter().units() : OdUnits();
     endResetModel();
 }
 
@@ -122,6 +124,7 @@ void EntityTableModel::removeErased()
 void EntityTableModel::refresh()
 {
     removeErased();
+    refreshUnits();
     std::vector<Row> rows = collect();
     // New entities come last, and their ids are the highest.
     const std::size_t known = m_rows.size();
@@ -141,6 +144,13 @@ void EntityTableModel::refresh()
     beginInsertRows({}, static_cast<int>(known), static_cast<int>(rows.size()) - 1);
     m_rows = std::move(rows);
     endInsertRows();
+}
+
+void EntityTableModel::refreshUnits()
+{
+    const OdUnits units = m_database ? m_database->formatter().units() : OdUnits();
+    if (std::exchange(m_units, units) != units && !m_rows.empty())
+        Q_EMIT dataChanged(index(0, LengthColumn), index(rowCount() - 1, StartYColumn), {Qt::DisplayRole});
 }
 
 void EntityTableModel::setDarkBackground(bool dark)

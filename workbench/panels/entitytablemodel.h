@@ -1,6 +1,7 @@
 #pragma once
 
 #include "drawing/entitygeometry.h"
+#include "od/odunitsformatter.h"
 #include "panels/textpool.h"
 #include "velm/table/columns.h"
 
@@ -90,9 +91,12 @@ private:
     int nameOf(OdDbObjectId record, const QString& ifNone);
     int kindOf(const OdDbEntity& entity);
     void removeErased();
+    /// Other units are a change of texts only.
+    void refreshUnits();
     QVariant value(const Row& row, int column) const;
 
     OdDbDatabase* m_database = nullptr; // not owned
+    OdUnits m_units;                    // in which the texts were written
     velm::Columns m_columns;
     std::vector<Row> m_rows; // by rising id
     TextPool m_texts;

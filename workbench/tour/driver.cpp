@@ -7,8 +7,9 @@
 #include "host/pagepanel.h"
 #include "host/pagepopup.h"
 #include "host/pageview.h"
+#include "tour/finditem.h"
+#include "tour/presscounter.h"
 #include "velm/bridge/conversions.h"
-#include "velm/table/columns.h"
 
 #include <QAbstractItemModel>
 #include <QCoreApplication>
@@ -25,56 +26,14 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
+#include <algorithm>
 #include <cmath>
 #include <exception>
 
 namespace workbench {
 namespace {
-constexpr int pollInterval = 20; // milliseconds
-
-/// What is seen of an item in its window.
-QRectF visiblePart(const QQuickItem& item)
-{
-    QRectF part = item.mapRectToScene(QRectF(0, 0, item.width(), item.height()));
-    for (const QQuickItem* outer = item.parentItem(); outer; outer = outer->parentItem())
-        if (outer->clip())
-            part &= outer->mapRectToScene(QRectF(0, 0, outer->width(), outer->height()));
-    return part & QRectF(QPointF(), item.window()->size());
-}
-
-/// One that is scrolled out of sight goes to `hidden`, unless there is one already.
-QQuickItem* findBelow(QQuickItem* item, const QString& name, QQuickItem*& hidden)
-{
-    if (!item || !item->isVisible())
-        return nullptr;
-    if (item->objectName() == name) {
-        if (!visiblePart(*item).isEmpty())
-            return item;
-        if (!hidden)
-            hidden = item;
-    }
-    // Rows of a list are children of the view only, not of the page's objects.
-    for (QQuickItem* child : item->childItems())
-        if (QQuickItem* found = findBelow(child, name, hidden))
-            return found;
-    return nullptr;
-}
-
-/// Cells have no names of their own.
-QQuickItem* findCell(QQuickItem* item, const QAbstractItemModel& model, const QString& row, const QString& columnId)
-{
-    if (!item || !item->isVisible())
-        return nullptr;
-    const QVariant itsRow = item->property("row");
-    const QVariant itsColumn = item->property("column");
-    if (itsRow.isValid() && itsColumn.isValid() && model.index(itsRow.toInt(), 0).data().toString() == row &&
-        model.headerData(itsColumn.toInt(), Qt::Horizontal, velm::ColumnIdRole) == columnId)
-        return item;
-    for (QQuickItem* child : item->childItems())
-        if (QQuickItem* found = findCell(child, model, row, columnId))
-            return found;
-    return nullptr;
-}
+constexpr int pollInterval = 20;    // milliseconds
+constexpr int longestStart = 60000; // milliseconds
 
 /// Whether two colours look the same.
 bool isClose(QRgb left, QRgb right)
@@ -94,9 +53,42 @@ void collectTexts(const wxWindow& window, QString& texts)
 }
 } // namespace
 
+Driver::Driver(WorkbenchApp& app) : m_app(app), m_presses(ask([] { return std::make_unique<PressCounter>(); }))
+{}
+
+Driver::~Driver()
+{
+    m_presses.release()->deleteLater();
+}
+
 void Driver::waitForStart()
 {
-    waitFor("the program's window", [this] { return m_app.frame()->IsActive() || (dialog() && dialog()->IsActive()); });
+    // The window manager gives the focus last, so that where it puts the window is known by then.
+    waitFor(
+        "the program's window", [this] { return m_app.frame()->IsActive() || (dialog() && dialog()->IsActive()); },
+        longestStart);
+    waitFor(
+        "the pages on the screen",
+        [this] {
+            const std::vector<PagePanel*>& pages = m_app.pages().pages();
+            return std::all_of(pages.begin(), pages.end(), [](const PagePanel* page) {
+                return !page->IsShownOnScreen() || page->view()->isExposed();
+            });
+        },
+        longestStart);
+    waitForRest();
+}
+
+void Driver::waitForRest()
+{
+    // The host's toolkit lays out windows with the next of its frames, which comes within this time, and has no rest
+    // while one is due.
+    QThread::msleep(pollInterval);
+    const unsigned before = ask([this] {
+        wxWakeUpIdle();
+        return m_app.restCount();
+    });
+    waitFor("the program to have done all that it had to do", [&] { return m_app.restCount() != before; });
 }
 
 void Driver::invoke(const std::function<void()>& function)
@@ -206,6 +198,7 @@ void Driver::clickItem(const QString& name, int button, const QString& modifier)
 QPoint Driver::placeOfItem(const QString& name)
 {
     // Where it is now may not be where it stays: a page that was just made is laid out on its first frame.
+    waitForRest();
     QPoint place;
     waitFor(QStringLiteral("the item \"%1\" to be enabled and in its place").arg(name), [&] {
         const QQuickItem* item = findItem(name);
@@ -225,7 +218,12 @@ void Driver::click(QPoint screen, int button, const QString& modifier)
     QStringList arguments = {"mousemove", QString::number(screen.x()), QString::number(screen.y())};
     const QStringList press = {"click", QString::number(button)};
     arguments += modifier.isEmpty() ? press : QStringList{"keydown", modifier} + press + QStringList{"keyup", modifier};
+    const unsigned before = ask([this] { return m_presses->count(); });
     xdotool(arguments);
+    // The window manager keeps a click back until it has given the window the keyboard. What is typed in between goes
+    // to that window instead of to the page in it. A wheel presses nothing.
+    if (button <= 3)
+        waitFor("the click to arrive", [&] { return m_presses->count() != before; });
 }
 
 void Driver::moveMouse(QPoint screen)
@@ -257,6 +255,7 @@ QRect Driver::rectOf(wxWindow& window)
 
 void Driver::click(wxWindow& window)
 {
+    waitForRest();
     QRect place;
     waitFor("a window to be in its place", [&] {
         const QRect now = rectOf(window);

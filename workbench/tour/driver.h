@@ -10,6 +10,7 @@
 #include <wx/window.h>
 
 #include <functional>
+#include <memory>
 #include <stdexcept>
 #include <type_traits>
 
@@ -19,6 +20,7 @@ class wxTopLevelWindow;
 
 namespace workbench {
 class PagePopup;
+class PressCounter;
 class WorkbenchApp;
 
 /// What a step expected and didn't find.
@@ -34,7 +36,8 @@ public:
 class Driver
 {
 public:
-    explicit Driver(WorkbenchApp& app) : m_app(app) {}
+    explicit Driver(WorkbenchApp& app);
+    ~Driver();
 
     WorkbenchApp& app() { return m_app; }
 
@@ -51,7 +54,7 @@ public:
             return result;
         }
     }
-    /// Waits until the program's window, or a dialog over it, is the active one.
+    /// Waits until the program's window, or a dialog over it, is the active one, and all is in its place on the screen.
     void waitForStart();
     /// Starts a function on the program's thread without waiting for its end, since it may run a dialog.
     void start(std::function<void()> function);
@@ -70,7 +73,7 @@ public:
     /// Whether the item or what is in it has the keyboard.
     bool itemHasFocus(const QString& name);
 
-    /// With a key of xdotool's name held, as "shift".
+    /// With a key of xdotool's name held, as "shift". Returns when the program has got the press of the button.
     void click(QPoint screen, int button = 1, const QString& modifier = {});
     void moveMouse(QPoint screen);
     /// Moves the mouse with the left button held. What is asked of `onTheWay` happens before the button is released.
@@ -108,6 +111,8 @@ public:
 
 private:
     void invoke(const std::function<void()>& function);
+    /// Waits until the program has nothing left to do: what it was told, also by the X server, it has done.
+    void waitForRest();
     void xdotool(const QStringList& arguments);
     /// Null when none is open.
     PagePopup* popup();
@@ -116,5 +121,6 @@ private:
     QPoint originOf(const QQuickWindow& page);
 
     WorkbenchApp& m_app;
+    std::unique_ptr<PressCounter> m_presses;
 };
 } // namespace workbench

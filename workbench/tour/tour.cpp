@@ -8,9 +8,11 @@
 #include "host/pagepanel.h"
 #include "od/oddbdatabase.h"
 #include "tour/driver.h"
+#include "tour/imagetour.h"
 #include "tour/paneltour.h"
 #include "tour/screentour.h"
 #include "tour/tabletour.h"
+#include "tour/unitstour.h"
 #include "velm/bridge/conversions.h"
 
 #include <QDir>
@@ -43,6 +45,7 @@ public:
         : m_driver(app), m_frame(*app.frame()), m_folder(folder),
           m_panelTour(m_driver, [this](const QString& name) { save(name); }),
           m_tableTour(m_driver, [this](const QString& name) { save(name); }),
+          m_imageTour(m_driver, [this](const QString& name) { save(name); }),
           m_screenTour(m_driver, [this](const QString& name) { save(name); })
     {}
 
@@ -81,6 +84,7 @@ private:
     QString m_folder;
     PanelTour m_panelTour;
     TableTour m_tableTour;
+    ImageTour m_imageTour;
     ScreenTour m_screenTour;
     QTemporaryDir m_scratch;
     bool m_hasDrawing = false;
@@ -333,6 +337,7 @@ int Tour::run(bool hasDrawing)
     m_hasDrawing = hasDrawing;
     const auto panels = [this](void (PanelTour::*step)()) { return [this, step](Tour*) { (m_panelTour.*step)(); }; };
     const auto tables = [this](void (TableTour::*step)()) { return [this, step](Tour*) { (m_tableTour.*step)(); }; };
+    const auto images = [this](void (ImageTour::*step)()) { return [this, step](Tour*) { (m_imageTour.*step)(); }; };
     const auto screens = [this](void (ScreenTour::*step)()) { return [this, step](Tour*) { (m_screenTour.*step)(); }; };
     const std::pair<const char*, std::function<void(Tour*)>> steps[] = {
         {"open-drawing", &Tour::openDrawing},
@@ -357,6 +362,10 @@ int Tour::run(bool hasDrawing)
         {"million-rows", tables(&TableTour::fillMillionRows)},
         {"million-rows-sorted", tables(&TableTour::sortMillionRows)},
         {"million-rows-scrolled", tables(&TableTour::scrollMillionRows)},
+        {"developer-settings", images(&ImageTour::setDeveloperSettings)},
+        {"image-zoomed", images(&ImageTour::placePicture)},
+        {"tool-icons", images(&ImageTour::showToolIcons)},
+        {"units", [this](Tour*) { UnitsTour(m_driver, [this](const QString& name) { save(name); }).run(); }},
         {"tool-tip", screens(&ScreenTour::showTip)},
         {"screens", screens(&ScreenTour::showScreens)},
         {"popup", screens(&ScreenTour::openPopup)},

@@ -1,0 +1,208 @@
+import QtQuick
+import QtQuick.Controls
+import Tandolin
+import Tandolin.API.Core.Themes
+
+// A field for a length or an angle. The controller has the value and its bounds; the field shows the value in the
+// drawing's units, with the unit beside it, and anew whenever those change. Enter and leaving the field commit a text,
+// Escape brings the value back. A text that is no value stays to be mended: it is marked, and `error` says why. Up, Down
+// and the wheel step by one unit, with Shift by ten.
+TextField {
+    id: control
+
+    // The field may be there before it has one.
+    property UnitsInputController controller: null
+    // A button for the host's calculator.
+    property bool hasCalculator: false
+    // Empty while the text is a value.
+    readonly property alias error: inner.error
+    // Whether the text differs from that of the value.
+    readonly property bool edited: text !== inner.shown
+
+    // False when the text is no value. Text that the user didn't change leaves the value with all its digits.
+    function commit(): bool {
+        if (!edited || !controller) {
+            inner.error = "";
+            return true;
+        }
+        const value = controller.parseValue(text);
+        if (isNaN(value)) {
+            const sample = inner.shown || controller.formatValue(0);
+            if (text.trim() === "")
+                inner.error = qsTr("A value is needed, such as %1.").arg(sample);
+            else if (controller.inputType === 0)
+                inner.error = qsTr("This is no length. A length is written as %1.").arg(sample);
+            else
+                inner.error = qsTr("This is no angle. An angle is written as %1.").arg(sample);
+            return false;
+        }
+        inner.error = "";
+        controller.value = value;
+        restore();
+        return true;
+    }
+
+    // Shows the value in the place of what was typed.
+    function restore() {
+        inner.error = "";
+        inner.read();
+        text = inner.shown;
+        if (activeFocus)
+            selectAll();
+        else
+            cursorPosition = 0;
+    }
+
+    function stepBy(units: int) {
+        // A number without a unit counts what the field shows.
+        const one = controller?.parseValue("1") ?? NaN;
+        if (readOnly || isNaN(one) || !commit())
+            return;
+        controller.value += units * one;
+        restore();
+    }
+
+    function enter(event) {
+        // Without a change Enter is the dialog's.
+        event.accepted = edited;
+        if (commit())
+            selectAll();
+    }
+
+    rightPadding: Metrics.padding + (unit.visible ? unit.width + 4 : 0) + (calculator.visible ? calculator.width : 0)
+    Accessible.description: error
+
+    onControllerChanged: restore()
+    Component.onCompleted: restore()
+    onTextEdited: inner.error = ""
+    onActiveFocusChanged: {
+        if (activeFocus)
+            selectAll();
+        else
+            commit();
+    }
+    Keys.onReturnPressed: event => enter(event)
+    Keys.onEnterPressed: event => enter(event)
+    Keys.onEscapePressed: event => {
+        event.accepted = edited;
+        restore();
+    }
+    Keys.onUpPressed: event => stepBy(event.modifiers & Qt.ShiftModifier ? 10 : 1)
+    Keys.onDownPressed: event => stepBy(event.modifiers & Qt.ShiftModifier ? -10 : -1)
+
+    HoverHandler {
+        id: hover
+    }
+    ToolTip.text: error
+    ToolTip.visible: error !== "" && (activeFocus || hover.hovered)
+    ToolTip.delay: 0
+
+    WheelHandler {
+        property real turned: 0
+
+        // A page must scroll on below the mouse.
+        enabled: control.activeFocus
+        onWheel: event => {
+            turned += event.angleDelta.y + event.angleDelta.x;
+            const notches = Math.trunc(turned / 120);
+            turned -= 120 * notches;
+            if (notches !== 0)
+                control.stepBy(notches * (event.modifiers & Qt.ShiftModifier ? 10 : 1));
+        }
+    }
+
+    QtObject {
+        id: inner
+
+        property string error
+        // The value that the text was made of, and that text.
+        property real value: 0
+        property string shown
+
+        function read() {
+            value = control.controller?.value ?? 0;
+            shown = control.controller?.formatValue(value) ?? "";
+        }
+
+        // What is being typed stays, and so does what can't be read, until the owner sets another value.
+        function refresh() {
+            const kept = control.edited && (control.activeFocus || value === control.controller?.value);
+            if (kept)
+                read();
+            else
+                control.restore();
+        }
+    }
+
+    Connections {
+        target: control.controller
+
+        function onValueChanged() {
+            inner.refresh();
+        }
+        function onPrecisionChanged() {
+            inner.refresh();
+        }
+    }
+    // The controller doesn't tell of changed units.
+    Connections {
+        target: Settings
+
+        function onLinearUnitPrecisionChanged() {
+            inner.refresh();
+        }
+        function onLinearUnitStringChanged() {
+            inner.refresh();
+        }
+        function onAngularUnitPrecisionChanged() {
+            inner.refresh();
+        }
+        function onAngularUnitStringChanged() {
+            inner.refresh();
+        }
+    }
+
+    Rectangle {
+        objectName: "errorFrame"
+        anchors.fill: parent
+        visible: control.error !== ""
+        color: "transparent"
+        radius: Metrics.radius
+        border.width: 2
+        border.color: Colors.error
+    }
+    Label {
+        id: unit
+
+        objectName: "unit"
+        anchors.right: calculator.visible ? calculator.left : parent.right
+        anchors.rightMargin: calculator.visible ? 4 : Metrics.padding
+        anchors.verticalCenter: parent.verticalCenter
+        visible: text !== ""
+        color: Colors.textSecondary
+        text: {
+            // Read to be told of: the controller doesn't tell.
+            const told = [Settings.linearUnitString, Settings.angularUnitString];
+            return control.controller?.showUnitLabel ? control.controller.unitString : "";
+        }
+    }
+    IconButton {
+        id: calculator
+
+        objectName: "calculator"
+        anchors.right: parent.right
+        anchors.rightMargin: 2
+        anchors.verticalCenter: parent.verticalCenter
+        width: 20
+        height: 20
+        visible: control.hasCalculator
+        enabled: control.controller !== null && !control.readOnly
+        focusPolicy: Qt.NoFocus
+        mark: "calculator"
+        text: qsTr("Calculator")
+        onClicked: {
+            control.commit();
+            control.controller.launchQuickCalc();
+        }
+    }
+}
