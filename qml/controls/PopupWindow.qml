@@ -15,7 +15,9 @@ Window {
     property T.AbstractButton opener: null
     default property alias contents: pane.contentData
 
-    property bool wasActive: false
+    // A window counts as active together with the one that it is transient for, but has this by itself only.
+    readonly property bool hasKeyboard: contentItem.activeFocus
+    property bool hadKeyboard: false
     property bool wasOpen: false
     // The press on the opener that took the keyboard away, and closed the popup, ends in a click there.
     property bool closedByOpener: false
@@ -26,7 +28,7 @@ Window {
     function open() {
         if (wasOpen)
             return;
-        wasActive = false;
+        hadKeyboard = false;
         wasOpen = true;
         closedByOpener = false;
         const host = core.windowParent().getQtParent();
@@ -37,11 +39,23 @@ Window {
         requestActivate();
     }
 
+    function dismiss() {
+        hide();
+        tellClosed();
+    }
+
+    function tellClosed() {
+        if (wasOpen) {
+            wasOpen = false;
+            core.closed();
+        }
+    }
+
     function toggle() {
         const justClosed = closedByOpener;
         closedByOpener = false;
         if (wasOpen)
-            hide();
+            dismiss();
         else if (!justClosed)
             open();
     }
@@ -51,26 +65,25 @@ Window {
     width: Math.max(1, Math.ceil(pane.implicitWidth))
     height: Math.max(1, Math.ceil(pane.implicitHeight))
 
-    onActiveChanged: {
-        if (active) {
-            wasActive = true;
-        } else if (wasActive && !core.customContentHasFocus()) {
+    onHasKeyboardChanged: {
+        if (hasKeyboard) {
+            hadKeyboard = true;
+        } else if (hadKeyboard && !core.customContentHasFocus()) {
             closedByOpener = opener !== null && opener.hovered;
-            hide();
+            dismiss();
         }
     }
+    // This may come late: a popup that is closed by its own hand doesn't wait for it.
     onVisibleChanged: {
-        if (!visible && wasOpen) {
-            wasOpen = false;
-            core.closed();
-        }
+        if (!visible)
+            tellClosed();
     }
 
     Connections {
         target: popup.core
 
         function onCloseRequested() {
-            popup.hide();
+            popup.dismiss();
         }
         function onSetPosition(position) {
             popup.x = position.x;
@@ -95,7 +108,7 @@ Window {
             border.color: Colors.outline
         }
 
-        Keys.onEscapePressed: popup.hide()
+        Keys.onEscapePressed: popup.dismiss()
     }
     // Takes the press and the release that the core wants ignored.
     MouseArea {

@@ -38,7 +38,6 @@ PanelPage {
                 id: convert
 
                 objectName: "convert"
-                Layout.alignment: Qt.AlignRight
                 text: qsTr("&Convert a Length")
                 onClicked: converter.toggle()
             }

@@ -34,6 +34,8 @@ void ScreenTour::showTip()
     const auto isShown = [this] { return m_frame.canvasTip().window().isVisible(); };
     for (const bool light : {true, false}) {
         setTheme(light);
+        m_driver.moveMouse(canvas.topLeft() + QPoint(2, 2));
+        m_driver.waitFor("no tool tip", [&] { return !isShown(); });
         m_driver.moveMouse(place + QPoint(3, 0));
         m_driver.moveMouse(place);
         m_driver.waitFor("the tool tip of an entity", isShown);
