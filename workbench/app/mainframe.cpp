@@ -7,6 +7,7 @@
 #include "app/frametoolbar.h"
 #include "app/hostservices.h"
 #include "app/layercommands.h"
+#include "app/secondpane.h"
 #include "app/velmsession.h"
 #include "command/commandline.h"
 #include "drawing/drawingcanvas.h"
@@ -28,8 +29,6 @@
 
 #include <QDir>
 
-#include <memory>
-
 namespace workbench {
 namespace {
 constexpr int sideWidth = 380;
@@ -38,27 +37,6 @@ constexpr int lowerPanelsHeight = 290;
 constexpr int tablesHeight = 270;
 const OdString rectKey = L"MainWindow/Rectangle";
 const OdString maximizedKey = L"MainWindow/Maximized";
-
-/// Keeps the second pane of a splitter at this size, in pixels, or at what a person's hand makes of it, as far as the
-/// splitter has room. The place is wished for anew with each size: the window gets several before it is on the screen,
-/// some of them tiny, and a sash must not stay where one of those pressed it.
-void keepSecondPane(wxSplitterWindow& splitter, int size)
-{
-    const auto wanted = std::make_shared<int>(size);
-    splitter.Bind(wxEVT_SIZE, [&splitter, wanted](wxSizeEvent& event) {
-        // The splitter itself, which comes next, places the panes by it.
-        splitter.SetSashPosition(-*wanted, false);
-        event.Skip();
-    });
-    splitter.Bind(wxEVT_SPLITTER_SASH_POS_CHANGED, [&splitter, wanted](wxSplitterEvent& event) {
-        event.Skip();
-        // Splitters within this one tell it of theirs, too.
-        if (event.GetEventObject() != &splitter)
-            return;
-        const wxSize all = splitter.GetClientSize();
-        *wanted = (splitter.GetSplitMode() == wxSPLIT_VERTICAL ? all.x : all.y) - event.GetSashPosition();
-    });
-}
 } // namespace
 
 MainFrame::MainFrame(VelmSession& session, HostServices& services, PageGroup& pages)
