@@ -6,7 +6,8 @@ import Tandolin.API.Core.Themes
 
 // A popup of a page in a window of its own above the host's: as large as its contents, wherever the core's owner says.
 // It takes the keyboard, and closes when that goes to another window, which a click anywhere else brings about; when
-// Escape is pressed; or when the core asks for it. The core hears once that it closed.
+// Escape is pressed; or when the core asks for it. The core hears once that it closed. A page holds it as a property: as a
+// child it would get the page's window, which lies in one of the host's, as its transient parent.
 Window {
     id: popup
 

@@ -257,7 +257,7 @@ void PopupsTest::aMonitorIsUnpluggedUnderAPopup()
 {
     moveFrame({1350, 30});
     openPopup();
-    m_driver.waitFor("the popup on the right monitor", [&] { return popup()->screen()->name() == "right"; });
+    m_driver.waitFor("the popup on the right monitor", [&] { return serverRect(popup()->winId()).left() >= 1280; });
     QCOMPARE(QProcess::execute("xrandr", {"--delmonitor", "right"}), 0);
     m_driver.waitFor("one monitor", [&] { return m_frame.screens().monitors().size() == 1; });
     const QRect left(0, 0, 1280, 900);

@@ -9,6 +9,38 @@ PanelPage {
     id: page
 
     required property var controller
+    // Not a child: the page's own window, which lies in one of the host's, would be taken for the popup's parent.
+    readonly property PopupWindow converter: PopupWindow {
+        objectName: "converter"
+        core: page.controller.popup.core
+        opener: convert
+        onAboutToShow: page.controller.popup.hold(convert.mapToItem(null, Qt.rect(0, 0, convert.width, convert.height + 2)), Qt.size(page.converter.width, page.converter.height))
+
+        ColumnLayout {
+            spacing: Metrics.spacing
+
+            Label {
+                text: qsTr("Pixels of 96 to the inch:")
+            }
+            SpinBox {
+                id: length
+
+                objectName: "length"
+                Layout.fillWidth: true
+                to: 100000
+                value: 100
+                editable: true
+                focus: true
+            }
+            InfoRows {
+                objectName: "converted"
+                Layout.fillWidth: true
+                title: qsTr("Pixels of each monitor")
+                // The monitors may change under an open popup.
+                rows: page.controller.monitors.length > 0 ? page.controller.inEachMonitor(length.value) : []
+            }
+        }
+    }
 
     Timer {
         interval: 100
@@ -39,7 +71,7 @@ PanelPage {
 
                 objectName: "convert"
                 text: qsTr("&Convert a Length")
-                onClicked: converter.toggle()
+                onClicked: page.converter.toggle()
             }
             InfoRows {
                 Layout.fillWidth: true
@@ -56,39 +88,6 @@ PanelPage {
                 Layout.fillWidth: true
                 title: qsTr("Monitors")
                 rows: page.controller.monitorRows
-            }
-        }
-    }
-    PopupWindow {
-        id: converter
-
-        objectName: "converter"
-        core: page.controller.popup.core
-        opener: convert
-        onAboutToShow: page.controller.popup.hold(convert.mapToItem(null, Qt.rect(0, 0, convert.width, convert.height + 2)), Qt.size(width, height))
-
-        ColumnLayout {
-            spacing: Metrics.spacing
-
-            Label {
-                text: qsTr("Pixels of 96 to the inch:")
-            }
-            SpinBox {
-                id: length
-
-                objectName: "length"
-                Layout.fillWidth: true
-                to: 100000
-                value: 100
-                editable: true
-                focus: true
-            }
-            InfoRows {
-                objectName: "converted"
-                Layout.fillWidth: true
-                title: qsTr("Pixels of each monitor")
-                // The monitors may change under an open popup.
-                rows: page.controller.monitors.length > 0 ? page.controller.inEachMonitor(length.value) : []
             }
         }
     }
