@@ -1,11 +1,12 @@
 #include "velm/images/bitmaplookupsize.h"
 
 #include "velm/images/pixelratioholder.h"
+#include "velm/screens/devicepixels.h"
 
 #include <QMessageLogger>
 
 #include <algorithm>
-#include <cstdlib>
+#include <cmath>
 
 namespace velm {
 namespace {
@@ -40,7 +41,7 @@ void BitmapLookupSize::initArray()
     if (m_baseSize == -1)
         m_baseSize = defaultSize;
     const int target = getTargetSize();
-    const auto distance = [target](int size) { return std::abs(size - target); };
+    const auto distance = [target](int size) { return std::abs(double(target) - size); };
     int count = 0;
     const auto append = [&](int size) {
         if (std::find(m_order, m_order + count, size) == m_order + count)
@@ -75,6 +76,6 @@ int BitmapLookupSize::getNextLoadSize()
 
 int BitmapLookupSize::getTargetSize() const
 {
-    return static_cast<int>(m_baseSize * (m_scale == -1.0 ? 1.0 : m_scale));
+    return devicePixels(m_baseSize * (m_scale == -1.0 ? 1.0 : m_scale));
 }
 } // namespace velm

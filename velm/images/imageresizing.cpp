@@ -97,8 +97,8 @@ QRect transformToDestinationOnlyRectangle(const QRect& source, const QRect& dest
     const double k = static_cast<double>(destination.height()) / source.height();
     const int left = truncated(source.left() * -k);
     const int top = truncated(source.top() * -k);
-    const int right = truncated((source.left() + source.right() + 1) * k) - 1 + left;
-    const int bottom = truncated((source.top() + source.bottom() + 1) * k) - 1 + top;
+    const int right = truncated((double(source.left()) + source.right() + 1.0) * k) - 1 + left;
+    const int bottom = truncated((double(source.top()) + source.bottom() + 1.0) * k) - 1 + top;
     return QRect(QPoint(left, top), QPoint(right, bottom));
 }
 } // namespace velm

@@ -1,13 +1,16 @@
 #pragma once
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
 namespace velm {
-/// A coordinate in whole pixels, truncated toward zero. What no screen has is cut off: beyond a thousand million, and
-/// 0 for a NaN.
+/// A coordinate in whole pixels, truncated toward zero and cut to what an int holds; 0 for a NaN.
 inline int devicePixels(double coordinate)
 {
-    constexpr double most = 1e9;
-    return coordinate == coordinate ? static_cast<int>(std::clamp(coordinate, -most, most)) : 0;
+    using Limits = std::numeric_limits<int>;
+    return std::isnan(coordinate)
+               ? 0
+               : static_cast<int>(std::clamp(coordinate, double(Limits::min()), double(Limits::max())));
 }
 } // namespace velm

@@ -1,12 +1,14 @@
 #include "velm/screens/monitorinfo.h"
 
-#include "velm/bridge/conversions.h"
+#include "velm/screens/devicepixels.h"
 
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWindow>
 
 #include <wx/display.h>
+
+#include <cmath>
 
 namespace velm {
 MonitorInfo::MonitorInfo(const Source& source) : m_source(source)
@@ -18,7 +20,8 @@ IMonitorInfo::MonitorGeometry MonitorInfo::getGeometry() const
     if (m_source.qtWindow)
         screen = m_source.qtWindow->screen();
     else if (!screen)
-        screen = QGuiApplication::screenAt(m_source.point.toPoint());
+        screen = QGuiApplication::screenAt(
+            QPoint(devicePixels(std::round(m_source.point.x())), devicePixels(std::round(m_source.point.y()))));
     MonitorGeometry geometry;
     if (screen) {
         geometry.rect = QRectF(screen->geometry());
@@ -29,7 +32,8 @@ IMonitorInfo::MonitorGeometry MonitorInfo::getGeometry() const
 
 IMonitorInfo::MonitorGeometry MonitorInfo::getScreenGeometry() const
 {
-    const int found = wxDisplay::GetFromPoint(wxFromQt(m_source.point - QPointF(1.0, 1.0)));
+    const wxPoint inside(devicePixels(m_source.point.x() - 1.0), devicePixels(m_source.point.y() - 1.0));
+    const int found = wxDisplay::GetFromPoint(inside);
     const wxRect area = wxDisplay(found == wxNOT_FOUND ? 0u : static_cast<unsigned>(found)).GetClientArea();
     MonitorGeometry geometry;
     geometry.rect = QRectF(area.x, area.y, area.width, area.height);

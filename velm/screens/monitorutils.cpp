@@ -18,8 +18,11 @@ std::optional<int> MonitorUtils::getDpiPerMonitor(HMONITOR monitor)
     if (!m_api->getMonitorInfo(monitor, &info))
         return std::nullopt;
     ISystemWindow* const window = m_api->getSystemWindow();
-    static const HWND handle = window ? window->create() : nullptr;
-    if (!window || !handle) {
+    const auto created = [window] {
+        static const HWND handle = window->create();
+        return handle != nullptr;
+    };
+    if (!window || !created()) {
         QMessageLogger(nullptr, 0, nullptr).debug().noquote()
             << "Failed to create hidden window for ThreadDpiAwarenessOverridePerMonitorV2.";
         return std::nullopt;

@@ -45,8 +45,8 @@ QPointF getGlobalCoordinates(QPointF point, double, double)
     // A monitor that begins at 0 counts from there in both directions.
     if (api.getMonitorRect(point, &rect))
         return QPointF(utils.fromDIP(point, devicePixels(point.x())), utils.fromDIP(point, devicePixels(point.y())));
-    return QPointF(utils.fromDIP(point, devicePixels(point.x() - rect.left)) + rect.left,
-                   utils.fromDIP(point, devicePixels(point.y() - rect.top)) + rect.top);
+    return QPointF(utils.fromDIP(point, devicePixels(point.x() - rect.left)) + double(rect.left),
+                   utils.fromDIP(point, devicePixels(point.y() - rect.top)) + double(rect.top));
 }
 
 LogicalRect getScreenRect(wxWindow* window, const IMonitorInfo::MonitorGeometry& geometry)

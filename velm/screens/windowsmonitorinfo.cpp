@@ -2,6 +2,7 @@
 
 #include "desktop/desktop.h"
 #include "velm/bridge/conversions.h"
+#include "velm/screens/devicepixels.h"
 #include "velm/screens/monitorutils.h"
 #include "velm/screens/screencoordinates.h"
 #include "velm/screens/threaddpiawareness.h"
@@ -77,10 +78,10 @@ IMonitorInfo::MonitorGeometry WindowsMonitorInfo::hostWindowGeometry() const
 IMonitorInfo::MonitorGeometry WindowsMonitorInfo::getScreenGeometry() const
 {
     const std::unique_ptr<IThreadDpiAwarenessOverridePerMonitorV2> scope = getPerMonitorV2Setter();
-    const wxPoint point = wxFromQt(source().point);
+    const POINT point{devicePixels(source().point.x()), devicePixels(source().point.y())};
     const Monitors all = monitors();
     MonitorGeometry geometry;
-    if (const RECT* monitor = monitorAt(all, POINT{point.x, point.y})) {
+    if (const RECT* monitor = monitorAt(all, point)) {
         geometry.rect =
             QRectF(monitor->left, monitor->top, monitor->right - monitor->left, monitor->bottom - monitor->top);
         geometry.origin = geometry.rect.topLeft();

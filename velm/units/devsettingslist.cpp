@@ -15,7 +15,10 @@ std::map<QString, std::map<QString, int>>& keptValues()
 
 DevSettingsList::DevSettingsList(const QString& tag, std::vector<Setting> settings)
     : m_tag(tag), m_settings(std::move(settings))
-{}
+{
+    // What is made first goes last: the values outlive every list.
+    keptValues();
+}
 
 DevSettingsList::~DevSettingsList() = default;
 

@@ -49,6 +49,19 @@ private:
     std::unique_ptr<Pimpl> m_pimpl;
 };
 
+/// Hears each press of a mouse button that reaches a widget of the host's toolkit, of its own controls, too, once for
+/// each widget that is asked to handle it.
+class PressWatcher
+{
+public:
+    explicit PressWatcher(std::function<void()> pressed);
+    ~PressWatcher();
+
+private:
+    std::function<void()> m_pressed;
+    unsigned long m_hook;
+};
+
 /// The native window of the top-level window around `window`; 0 while there is none.
 std::uintptr_t toplevelWindow(const wxWindow& window);
 /// Makes the window the widget that has its top-level window's focus, without asking the X server for the keyboard.

@@ -140,6 +140,28 @@ FocusWidgetWatcher::~FocusWidgetWatcher()
         g_signal_handlers_disconnect_by_data(m_pimpl->top, m_pimpl.get());
 }
 
+namespace {
+guint pressSignal()
+{
+    return g_signal_lookup("button-press-event", GTK_TYPE_WIDGET);
+}
+
+gboolean onPress(GSignalInvocationHint*, guint, const GValue*, gpointer pressed)
+{
+    (*static_cast<const std::function<void()>*>(pressed))();
+    return TRUE;
+}
+} // namespace
+
+PressWatcher::PressWatcher(std::function<void()> pressed)
+    : m_pressed(std::move(pressed)), m_hook(g_signal_add_emission_hook(pressSignal(), 0, onPress, &m_pressed, nullptr))
+{}
+
+PressWatcher::~PressWatcher()
+{
+    g_signal_remove_emission_hook(pressSignal(), m_hook);
+}
+
 std::uintptr_t toplevelWindow(const wxWindow& window)
 {
     GtkWidget* top = toplevelOf(window);
