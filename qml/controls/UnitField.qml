@@ -198,7 +198,7 @@ TextField {
         visible: control.hasCalculator
         enabled: control.controller !== null && !control.readOnly
         focusPolicy: Qt.NoFocus
-        mark: "calculator"
+        toolIcon: "calculator"
         text: qsTr("Calculator")
         onClicked: {
             control.commit();

@@ -7,7 +7,6 @@ import QtQml
 QtObject {
     readonly property var outlines: ({
         "add": "M8.5 3 V14 M3 8.5 H14",
-        "calculator": "M4 2.5 H12.5 V14 H4 Z M6 5 H10.5 M6 8 H6.4 M8 8 H8.5 M10.2 8 H10.6 M6 11 H6.4 M8 11 H8.5 M10.2 11 H10.6",
         "check": "M3.5 8.5 L6.5 11.5 L12.5 4.5",
         "chevron-down": "M4.5 6.5 L8 10 L11.5 6.5",
         "chevron-left": "M9.5 4.5 L6 8 L9.5 11.5",

@@ -58,7 +58,7 @@ PanelPage {
                 }
                 IconButton {
                     objectName: "openPicture"
-                    mark: "folder"
+                    toolIcon: "open"
                     text: qsTr("Open a picture file")
                     onClicked: page.controller.askForFile()
                 }
