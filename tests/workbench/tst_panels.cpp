@@ -148,10 +148,7 @@ void PanelsTest::aLayerIsEditedInItsTable()
     m_driver.waitFor("the name in the drawing", [&] { return layer(L"Outside") != nullptr; });
 
     m_driver.clickItem("layers/Outside/color");
-    m_driver.waitFor("the colours", [&] {
-        const auto* list = m_driver.property("choice", "popup").value<QObject*>();
-        return m_driver.itemHasFocus("choice") && list && list->property("opened").toBool();
-    });
+    m_driver.waitFor("the colours", [&] { return m_driver.hasOpenList("choice"); });
     m_driver.key("Home");
     m_driver.key("Return");
     m_driver.waitFor("the colour in the drawing",

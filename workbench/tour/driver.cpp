@@ -190,6 +190,14 @@ bool Driver::itemHasFocus(const QString& name)
     });
 }
 
+bool Driver::hasOpenList(const QString& name)
+{
+    if (!itemHasFocus(name))
+        return false;
+    const auto* list = property(name, "popup").value<QObject*>();
+    return list && list->property("opened").toBool();
+}
+
 void Driver::clickItem(const QString& name, int button, const QString& modifier)
 {
     click(placeOfItem(name), button, modifier);

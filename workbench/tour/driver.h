@@ -72,6 +72,8 @@ public:
     QPoint placeOfItem(const QString& name);
     /// Whether the item or what is in it has the keyboard.
     bool itemHasFocus(const QString& name);
+    /// Whether the list of a combo box is open and has the keyboard.
+    bool hasOpenList(const QString& name);
 
     /// With a key of xdotool's name held, as "shift". Returns when the program has got the press of the button.
     void click(QPoint screen, int button = 1, const QString& modifier = {});

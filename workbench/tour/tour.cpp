@@ -183,7 +183,7 @@ void Tour::editLayer()
     m_driver.waitFor("the name in the drawing", [&] { return layer(L"Edited in the table") != nullptr; });
     check(layerName(1) == "Edited in the table", "the row stays where it is");
     m_driver.clickItem(layerCell(1, "color"));
-    m_driver.waitFor("the colours", [&] { return m_driver.itemHasFocus("choice"); });
+    m_driver.waitFor("the colours", [&] { return m_driver.hasOpenList("choice"); });
     save("layer-colours-to-choose");
     m_driver.key("Home");
     m_driver.key("Return");
