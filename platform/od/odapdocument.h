@@ -21,5 +21,5 @@ public:
 
 private:
     OdString m_fileName;
-    std::unique_ptr<OdDbDatabase> m_database;
+    std::shared_ptr<OdDbDatabase> m_database;
 };

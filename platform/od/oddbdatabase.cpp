@@ -46,13 +46,21 @@ OdDbDatabase::OdDbDatabase()
     for (const wchar_t* name : {L"ByBlock", L"ByLayer", L"Continuous"})
         addLinetype(name);
     m_currentLayer = addLayer(L"0")->objectId();
-    addDimStyle(L"Standard")->setDimtxsty(addTextStyle(L"Standard")->objectId());
+    m_currentLinetype = findLinetype(L"ByLayer")->objectId();
+    m_currentDimStyle = addDimStyle(L"Standard")->objectId();
+    m_currentDimStyle.open<OdDbDimStyleTableRecord>()->setDimtxsty(addTextStyle(L"Standard")->objectId());
     m_modelSpace = addBlock(L"*Model_Space");
     addLayout(L"Model", m_modelSpace);
-    addLayout(L"Layout1", addBlock(L"*Paper_Space"));
+    m_paperSpace = addLayout(L"Layout1", addBlock(L"*Paper_Space"))->getBlockTableRecordId();
 }
 
 OdDbDatabase::~OdDbDatabase() = default;
+
+std::shared_ptr<OdDbDatabase> OdDbDatabase::keep(OdDbDatabase* database)
+{
+    std::shared_ptr<OdDbDatabase> owned = database ? database->weak_from_this().lock() : nullptr;
+    return owned ? owned : std::shared_ptr<OdDbDatabase>(std::shared_ptr<void>(), database);
+}
 
 std::vector<OdDbLayerTableRecord*> OdDbDatabase::layers() const
 {
@@ -147,6 +155,14 @@ OdDbLayout* OdDbDatabase::addLayout(const OdString& name, OdDbBlockTableRecord* 
     layout->m_block = block->objectId();
     block->m_layout = layout->objectId();
     return layout;
+}
+
+OdDbViewport* OdDbDatabase::addViewport()
+{
+    auto viewport = std::make_unique<OdDbViewport>();
+    OdDbViewport* result = viewport.get();
+    store(std::move(viewport));
+    return result;
 }
 
 bool OdDbDatabase::rename(OdDbSymbolTableRecord& record, const OdString& name)

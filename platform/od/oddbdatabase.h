@@ -10,13 +10,17 @@
 /// One drawing in memory: tables of named records, layouts, blocks and their entities, every object under an id.
 /// A new database holds layer "0", the linetypes "ByBlock", "ByLayer" and "Continuous", the dimension and the text
 /// style "Standard", and the blocks "*Model_Space" and "*Paper_Space" with the layouts "Model" and "Layout1".
-class PLATFORM_EXPORT OdDbDatabase
+/// A database that a shared pointer owns lives as long as anyone holds it by keep().
+class PLATFORM_EXPORT OdDbDatabase : public std::enable_shared_from_this<OdDbDatabase>
 {
 public:
     OdDbDatabase();
     ~OdDbDatabase();
     OdDbDatabase(const OdDbDatabase&) = delete;
     OdDbDatabase& operator=(const OdDbDatabase&) = delete;
+
+    /// A share in the database; one that no shared pointer owns is merely pointed to.
+    static std::shared_ptr<OdDbDatabase> keep(OdDbDatabase* database);
 
     // The records of a table that are not erased, in the order in which they were added.
     std::vector<OdDbLayerTableRecord*> layers() const;
@@ -43,6 +47,8 @@ public:
     /// A layout over a new paper space block, or over `block` when one is given.
     OdDbLayout* addLayout(const OdString& name, OdDbBlockTableRecord* block = nullptr);
 
+    OdDbViewport* addViewport();
+
     /// Gives a record another name. False, with nothing changed, when another record of its table has it already.
     bool rename(OdDbSymbolTableRecord& record, const OdString& name);
 
@@ -65,6 +71,26 @@ public:
     /// The layer that new entities get (initially layer "0").
     OdDbObjectId currentLayer() const { return m_currentLayer; }
     void setCurrentLayer(OdDbObjectId layer) { m_currentLayer = layer; }
+    // What else new entities get: initially all by layer.
+    const OdCmColor& getCECOLOR() const { return m_currentColor; }
+    void setCECOLOR(const OdCmColor& color) { m_currentColor = color; }
+    OdDbObjectId getCELTYPE() const { return m_currentLinetype; }
+    void setCELTYPE(const OdDbObjectId& linetype) { m_currentLinetype = linetype; }
+    int getCELWEIGHT() const { return m_currentLineWeight; }
+    void setCELWEIGHT(int lineWeight) { m_currentLineWeight = lineWeight; }
+    /// What the lineweight "by default" means, in hundredths of a millimetre.
+    int getLWDEFAULT() const { return m_defaultLineWeight; }
+    void setLWDEFAULT(int lineWeight) { m_defaultLineWeight = lineWeight; }
+    /// The style of new dimensions and leaders (initially "Standard").
+    OdDbObjectId getDIMSTYLE() const { return m_currentDimStyle; }
+    void setDIMSTYLE(const OdDbObjectId& dimStyle) { m_currentDimStyle = dimStyle; }
+
+    /// Whether the model is shown and not a sheet.
+    bool getTILEMODE() const { return m_tileMode; }
+    void setTILEMODE(bool tileMode) { m_tileMode = tileMode; }
+    /// The block of the sheet that was shown last (initially that of "Layout1").
+    OdDbObjectId getPaperSpaceId() const { return m_paperSpace; }
+    void setPaperSpaceId(const OdDbObjectId& block) { m_paperSpace = block; }
 
 private:
     template <typename T>
@@ -88,5 +114,12 @@ private:
     Table<OdDbLayout> m_layouts;
     OdDbBlockTableRecord* m_modelSpace = nullptr; // not owned
     OdDbObjectId m_currentLayer;
+    OdCmColor m_currentColor;
+    OdDbObjectId m_currentLinetype;
+    int m_currentLineWeight = OdDb::kLnWtByLayer;
+    int m_defaultLineWeight = 25;
+    OdDbObjectId m_currentDimStyle;
+    bool m_tileMode = true;
+    OdDbObjectId m_paperSpace;
     OdUnitsFormatter m_formatter;
 };

@@ -5,6 +5,8 @@
 #include "od/oddbobject.h"
 #include "od/odge.h"
 
+#include <map>
+
 /// Lineweights are in hundredths of a millimetre; below zero stand the special ones.
 namespace OdDb {
 enum LineWeight
@@ -22,6 +24,15 @@ public:
 
     const OdCmColor& color() const { return m_color; }
     void setColor(const OdCmColor& color) { m_color = color; }
+    /// The colour in a viewport: the viewport's own, with `isOverride` set to true, or the layer's.
+    OdCmColor color(const OdDbObjectId& viewport, bool& isOverride) const
+    {
+        const auto own = m_viewportColors.find(viewport);
+        isOverride = own != m_viewportColors.end();
+        return isOverride ? own->second : m_color;
+    }
+    /// Gives the layer a colour of its own in a viewport.
+    void setColor(const OdCmColor& color, const OdDbObjectId& viewport) { m_viewportColors[viewport] = color; }
     bool isOff() const { return m_off; }
     void setIsOff(bool off) { m_off = off; }
     bool isFrozen() const { return m_frozen; }
@@ -40,6 +51,7 @@ public:
 
 private:
     OdCmColor m_color = OdCmColor::fromIndex(7);
+    std::map<OdDbObjectId, OdCmColor> m_viewportColors;
     bool m_off = false;
     bool m_frozen = false;
     bool m_locked = false;
@@ -82,6 +94,9 @@ public:
     /// Decimal places of lengths.
     int dimdec() const { return m_decimals; }
     void setDimdec(int decimals) { m_decimals = decimals; }
+    /// The arrowhead by its internal name, as in "_DOT"; empty for the closed, filled one.
+    const OdString& dimblk() const { return m_arrowhead; }
+    void setDimblk(const OdString& name) { m_arrowhead = name; }
     OdDbObjectId dimtxsty() const { return m_textStyle; }
     void setDimtxsty(OdDbObjectId textStyle) { m_textStyle = textStyle; }
 
@@ -90,6 +105,7 @@ private:
     double m_arrowSize = 0.18;
     double m_scale = 1.0;
     int m_decimals = 4;
+    OdString m_arrowhead;
     OdDbObjectId m_textStyle;
 };
 
@@ -125,6 +141,10 @@ private:
     OdDbObjectId m_layout;
 };
 
+/// A window of a sheet onto the model.
+class PLATFORM_EXPORT OdDbViewport : public OdDbObject
+{};
+
 /// A sheet of the drawing over one block.
 class PLATFORM_EXPORT OdDbLayout : public OdDbSymbolTableRecord
 {
@@ -132,9 +152,13 @@ public:
     using OdDbSymbolTableRecord::OdDbSymbolTableRecord;
 
     OdDbObjectId getBlockTableRecordId() const { return m_block; }
+    /// The viewport that a person works in, or null.
+    OdDbObjectId activeViewportId() const { return m_activeViewport; }
+    void setActiveViewportId(const OdDbObjectId& viewport) { m_activeViewport = viewport; }
 
 private:
     friend class OdDbDatabase;
 
     OdDbObjectId m_block;
+    OdDbObjectId m_activeViewport;
 };

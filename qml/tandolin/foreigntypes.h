@@ -8,6 +8,10 @@
 #include "velm/dialogs/basepopupcontroller.h"
 #include "velm/dialogs/namedialogcontroller.h"
 #include "velm/dialogs/transientpopupcore.h"
+#include "velm/drawingprops/arrowheadmodel.h"
+#include "velm/drawingprops/colormodel.h"
+#include "velm/drawingprops/linetypemodel.h"
+#include "velm/drawingprops/lineweightmodel.h"
 #include "velm/units/fixingdoublevalidator.h"
 #include "velm/units/fixingintvalidator.h"
 #include "velm/units/qtfontconfig.h"
@@ -101,6 +105,70 @@ struct UIDevSettingsModelType
     Q_GADGET
     QML_FOREIGN(velm::UIDevSettingsModel)
     QML_NAMED_ELEMENT(UIDevSettingsModel)
+};
+
+struct ArrowHeadModelType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::ArrowHeadModel)
+    QML_NAMED_ELEMENT(ArrowHeadModel)
+    QML_UNCREATABLE("A combo's model comes from the host.")
+};
+
+struct ArrowHeadObjectType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::ArrowHeadObject)
+    QML_NAMED_ELEMENT(ArrowHeadObject)
+    QML_UNCREATABLE("A row comes from its model.")
+};
+
+struct ColorModelType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::ColorModel)
+    QML_NAMED_ELEMENT(ColorModel)
+    QML_UNCREATABLE("A combo's model comes from the host.")
+};
+
+struct ColorObjectType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::ColorObject)
+    QML_NAMED_ELEMENT(ColorObject)
+    QML_UNCREATABLE("A row comes from its model.")
+};
+
+struct LineTypeModelType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::LineTypeModel)
+    QML_NAMED_ELEMENT(LineTypeModel)
+    QML_UNCREATABLE("A combo's model comes from the host.")
+};
+
+struct LineTypeObjectType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::LineTypeObject)
+    QML_NAMED_ELEMENT(LineTypeObject)
+    QML_UNCREATABLE("A row comes from its model.")
+};
+
+struct LineWeightModelType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::LineWeightModel)
+    QML_NAMED_ELEMENT(LineWeightModel)
+    QML_UNCREATABLE("A combo's model comes from the host.")
+};
+
+struct LineWeightObjectType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::LineWeightObject)
+    QML_NAMED_ELEMENT(LineWeightObject)
+    QML_UNCREATABLE("A row comes from its model.")
 };
 
 struct QtControllerWrapperType

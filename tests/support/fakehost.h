@@ -67,12 +67,15 @@ public:
                                          int flags) override;
     int colorComboFlagsToDialog(int comboFlags, bool varies) override;
 
-    OdString linetypeLocalName(const OdString&) override { return {}; }
+    OdString linetypeLocalName(const OdString&) const override { return {}; }
     bool loadLineTypes(OdDbDatabase*, bool, OdDbObjectId&, bool, velm::LoadedLineTypes&) override { return false; }
-    bool drawLineTypeBitmap(int, int, wxBitmap&, OdDbObjectId, OdDbObjectId, const wxColour&) override { return false; }
-    int lineWeightCount() override { return 0; }
-    int lineWeightAt(int) override { return 0; }
-    OdString lineWeightName(int) override { return {}; }
+    bool drawLineTypeBitmap(int, int, wxBitmap&, OdDbObjectId, OdDbObjectId, const wxColour&) const override
+    {
+        return false;
+    }
+    int lineWeightCount() const override { return 0; }
+    int lineWeightAt(int) const override { return 0; }
+    OdString lineWeightName(int) const override { return {}; }
 
     bool hostQuery1() override { return false; }
     void hostAction1() override {}

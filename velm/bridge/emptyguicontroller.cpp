@@ -40,12 +40,15 @@ public:
     {
         return m_colors.colorComboFlagsToDialog(comboFlags, varies);
     }
-    OdString linetypeLocalName(const OdString&) override { return {}; }
+    OdString linetypeLocalName(const OdString&) const override { return {}; }
     bool loadLineTypes(OdDbDatabase*, bool, OdDbObjectId&, bool, LoadedLineTypes&) override { return false; }
-    bool drawLineTypeBitmap(int, int, wxBitmap&, OdDbObjectId, OdDbObjectId, const wxColour&) override { return false; }
-    int lineWeightCount() override { return 0; }
-    int lineWeightAt(int) override { return 0; }
-    OdString lineWeightName(int) override { return {}; }
+    bool drawLineTypeBitmap(int, int, wxBitmap&, OdDbObjectId, OdDbObjectId, const wxColour&) const override
+    {
+        return false;
+    }
+    int lineWeightCount() const override { return 0; }
+    int lineWeightAt(int) const override { return 0; }
+    OdString lineWeightName(int) const override { return {}; }
     std::intptr_t hostValue() override { return 0; }
     void hostAction4() override {}
     void hostAction5() override {}

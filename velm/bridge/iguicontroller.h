@@ -84,16 +84,16 @@ public:
                                            int flags) = 0;
     virtual int colorComboFlagsToDialog(int comboFlags, bool varies) = 0;
     /// The local name of a linetype's stored name.
-    virtual OdString linetypeLocalName(const OdString& storedName) = 0;
+    virtual OdString linetypeLocalName(const OdString& storedName) const = 0;
     /// Lists the linetypes of `database`; `id` goes in and comes out.
     virtual bool loadLineTypes(OdDbDatabase* database, bool noSecondOption, OdDbObjectId& id, bool noFirstOption,
                                LoadedLineTypes& lineTypes) = 0;
     virtual bool drawLineTypeBitmap(int width, int height, wxBitmap& bitmap, OdDbObjectId lineType, OdDbObjectId second,
-                                    const wxColour& background) = 0;
+                                    const wxColour& background) const = 0;
     /// The lineweight table, in hundredths of a millimetre.
-    virtual int lineWeightCount() = 0;
-    virtual int lineWeightAt(int index) = 0;
-    virtual OdString lineWeightName(int lineWeight) = 0;
+    virtual int lineWeightCount() const = 0;
+    virtual int lineWeightAt(int index) const = 0;
+    virtual OdString lineWeightName(int lineWeight) const = 0;
     virtual std::intptr_t hostValue() = 0;
     virtual void hostAction4() = 0;
     virtual void hostAction5() = 0;

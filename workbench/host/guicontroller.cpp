@@ -81,17 +81,17 @@ int GuiController::colorComboFlagsToDialog(int comboFlags, bool varies)
     return m_colors->colorComboFlagsToDialog(comboFlags, varies);
 }
 
-int GuiController::lineWeightCount()
+int GuiController::lineWeightCount() const
 {
     return static_cast<int>(std::size(lineWeights));
 }
 
-int GuiController::lineWeightAt(int index)
+int GuiController::lineWeightAt(int index) const
 {
     return index >= 0 && index < lineWeightCount() ? lineWeights[index] : 0;
 }
 
-OdString GuiController::lineWeightName(int lineWeight)
+OdString GuiController::lineWeightName(int lineWeight) const
 {
     return wxString::FromCDouble(lineWeight / 100.0, 2).Append(" mm").wc_str();
 }

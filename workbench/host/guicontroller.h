@@ -39,12 +39,15 @@ public:
     velm::ColorDescription describeColor(const OdCmColor& color, wxColour byLayerColor, bool layerOverride,
                                          int flags) override;
     int colorComboFlagsToDialog(int comboFlags, bool varies) override;
-    OdString linetypeLocalName(const OdString& storedName) override { return storedName; }
+    OdString linetypeLocalName(const OdString& storedName) const override { return storedName; }
     bool loadLineTypes(OdDbDatabase*, bool, OdDbObjectId&, bool, velm::LoadedLineTypes&) override { return false; }
-    bool drawLineTypeBitmap(int, int, wxBitmap&, OdDbObjectId, OdDbObjectId, const wxColour&) override { return false; }
-    int lineWeightCount() override;
-    int lineWeightAt(int index) override;
-    OdString lineWeightName(int lineWeight) override;
+    bool drawLineTypeBitmap(int, int, wxBitmap&, OdDbObjectId, OdDbObjectId, const wxColour&) const override
+    {
+        return false;
+    }
+    int lineWeightCount() const override;
+    int lineWeightAt(int index) const override;
+    OdString lineWeightName(int lineWeight) const override;
     std::intptr_t hostValue() override { return 0; }
     void hostAction4() override {}
     void hostAction5() override {}

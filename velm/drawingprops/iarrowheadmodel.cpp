@@ -1,0 +1,7 @@
+#include "velm/drawingprops/iarrowheadmodel.h"
+
+namespace velm {
+IArrowHeadModel::IArrowHeadModel() = default;
+
+IArrowHeadModel::~IArrowHeadModel() = default;
+} // namespace velm

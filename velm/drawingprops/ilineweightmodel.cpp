@@ -1,0 +1,7 @@
+#include "velm/drawingprops/ilineweightmodel.h"
+
+namespace velm {
+ILineWeightModel::ILineWeightModel() = default;
+
+ILineWeightModel::~ILineWeightModel() = default;
+} // namespace velm

@@ -1,0 +1,15 @@
+#include "velm/drawingprops/lineweightobject.h"
+
+namespace velm {
+LineWeightObject::LineWeightObject(QString name, double factor, int lineWeight)
+    : m_name(std::move(name)), m_factor(factor), m_lineWeight(lineWeight)
+{}
+
+void LineWeightObject::setName(const QString& name)
+{
+    if (name == m_name)
+        return;
+    m_name = name;
+    Q_EMIT lineWeightNameChanged();
+}
+} // namespace velm
