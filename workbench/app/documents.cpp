@@ -9,6 +9,7 @@
 #include <wx/filename.h>
 #include <wx/progdlg.h>
 
+#include <algorithm>
 #include <memory>
 
 namespace workbench {
@@ -55,6 +56,12 @@ bool Documents::open(const wxString& file)
     wxFileName name(file);
     name.MakeAbsolute();
     const wxString path = name.GetFullPath();
+    for (OdApDocument* document : m_manager.documents())
+        if (name.SameAs(wxFileName(document->fileName().c_str()))) {
+            m_manager.setCurDocument(document);
+            log(wxString::Format(_("Open already: %s"), name.GetFullName()));
+            return true;
+        }
     DxfReadResult result;
     {
         Progress progress(m_pages, path);
@@ -68,9 +75,7 @@ bool Documents::open(const wxString& file)
         return false;
     }
 
-    OdApDocument* former = m_manager.curDocument();
     m_manager.open(std::make_unique<OdApDocument>(path.wc_str(), std::move(result.database)));
-    m_manager.close(former);
     log(wxString::Format(_("Opened %s: %d entities"), wxFileName(path).GetFullName(), result.entityCount));
     for (const auto& [kind, count] : result.skipped)
         log(wxString::Format(_("Left out %d of the unknown kind %s"), count, wxString::FromUTF8(kind)));
@@ -80,5 +85,19 @@ bool Documents::open(const wxString& file)
 void Documents::close()
 {
     m_manager.close(m_manager.curDocument());
+}
+
+void Documents::closeAll()
+{
+    while (current())
+        close();
+}
+
+void Documents::next(bool forward)
+{
+    const std::vector<OdApDocument*> open = m_manager.documents();
+    const auto place = static_cast<size_t>(std::ranges::find(open, current()) - open.begin());
+    if (!open.empty())
+        m_manager.setCurDocument(open[(place + (forward ? 1 : open.size() - 1)) % open.size()]);
 }
 } // namespace workbench

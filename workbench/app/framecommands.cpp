@@ -13,7 +13,9 @@ void addFrameCommands(Commands& commands, MainFrame& frame)
         else
             frame.openDrawing(file);
     });
-    commands.add("CLOSE", _("Closes the drawing"), [&frame](const wxString&) { frame.documents().close(); });
+    commands.add("CLOSE", _("Closes the current drawing"), [&frame](const wxString&) { frame.documents().close(); });
+    commands.add("NEXT", _("Goes to the next open drawing"),
+                 [&frame](const wxString&) { frame.documents().next(true); });
     commands.add("THEME", _("Changes the colours: THEME DARK or THEME LIGHT"), [&](const wxString& name) {
         if (name.IsSameAs("DARK", false))
             frame.session().setThemeByManager(ut::EGuiColorTheme::Dark);

@@ -19,6 +19,7 @@ public:
     HostServices& operator=(const HostServices&) = delete;
 
     OdApDocManager& documents() { return m_documents; }
+    GuiController& gui() { return m_gui; }
     DialogFactory& dialogs() { return m_dialogs; }
     /// Where commands of pages go; not owned; null takes none.
     void setCommandLine(CommandLine* commandLine) { m_commandLine = commandLine; }

@@ -2,6 +2,7 @@
 
 #include "app/canvastip.h"
 #include "app/drawingcommands.h"
+#include "app/drawingpane.h"
 #include "app/framecommands.h"
 #include "app/framemenu.h"
 #include "app/frametoolbar.h"
@@ -45,6 +46,8 @@ MainFrame::MainFrame(VelmSession& session, HostServices& services, PageGroup& pa
       m_selection(services.documents()), m_layers(services.documents(), services.dialogs()),
       m_dimStyles(services.documents(), services.dialogs()), m_drawingInfo(services.documents()),
       m_images(services.documents()), m_drawingPanels(services.documents(), m_selection),
+      m_openDrawings(services.documents()),
+      m_currentProperties(services.documents(), m_selection, services.gui(), services.dialogs()),
       m_canvasMenu(services.documents(), m_selection), m_contextMenu(pages, *this, m_canvasMenu)
 {
     build();
@@ -56,6 +59,9 @@ MainFrame::MainFrame(VelmSession& session, HostServices& services, PageGroup& pa
     m_layers.onEdited = [this] { drawingChanged(); };
     m_dimStyles.onEdited = [this] { drawingChanged(); };
     properties().onEdited = [this] { drawingChanged(); };
+    m_currentProperties.onEdited = [this] { drawingChanged(); };
+    m_currentProperties.hasDialog = [this] { return m_pages.modals().top() != nullptr; };
+    m_openDrawings.onChosen = [this] { m_commandLine->input()->SetFocus(); };
     structure().onBranchWanted = [this](const QModelIndex& index) {
         branch().show(index);
         showPanel(_("Branch"));
@@ -95,9 +101,9 @@ MainFrame::~MainFrame()
     m_services.setCommandLine(nullptr);
     m_session.onThemeChanged = nullptr;
     m_session.onRebuilt = nullptr;
-    m_canvas->setDatabase(nullptr);
     // A page that goes may still tell something.
     properties().onEdited = nullptr;
+    m_currentProperties.onEdited = nullptr;
     m_layers.onEdited = nullptr;
     m_dimStyles.onEdited = nullptr;
     m_selection.disconnect();
@@ -113,7 +119,9 @@ void MainFrame::build()
                                            wxSP_LIVE_UPDATE | wxSP_NOBORDER);
     m_tableSplitter = new wxSplitterWindow(m_lowerSplitter, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                                            wxSP_LIVE_UPDATE | wxSP_NOBORDER);
-    m_canvas = new DrawingCanvas(m_tableSplitter);
+    auto* pane =
+        new DrawingPane(m_tableSplitter, m_pages, m_services.documents(), &m_currentProperties, &m_openDrawings);
+    m_canvas = &pane->canvas();
     m_canvas->background = [] { return wxGuiColour(ut::EGuiColor::Grey0); };
     m_canvas->accent = [] { return wxGuiColour(ut::EGuiColor::BlueHighlight); };
     m_commandLine = new CommandLine(m_lowerSplitter);
@@ -144,7 +152,7 @@ void MainFrame::build()
     m_panelSplitter->SplitHorizontally(m_panels, m_lowerPanels);
     m_tableSplitter->SetMinimumPaneSize(FromDIP(120));
     m_lowerSplitter->SplitHorizontally(m_tableSplitter, m_commandLine);
-    m_tableSplitter->SplitHorizontally(m_canvas, m_tablePanels);
+    m_tableSplitter->SplitHorizontally(pane, m_tablePanels);
     keepSecondPane(*m_sideSplitter, FromDIP(sideWidth));
     keepSecondPane(*m_lowerSplitter, FromDIP(lowerHeight));
     keepSecondPane(*m_panelSplitter, FromDIP(lowerPanelsHeight));
@@ -249,7 +257,6 @@ void MainFrame::askForDrawing()
 void MainFrame::documentBecameCurrent(OdApDocument* document)
 {
     m_canvasTip->hide();
-    m_canvas->setDatabase(document ? document->database() : nullptr);
     pushUnits();
     SetTitle(document ? wxFileName(document->fileName().c_str()).GetFullName() + " - velm workbench"
                       : wxString("velm workbench"));
@@ -266,6 +273,7 @@ void MainFrame::drawingChanged()
     m_drawingInfo.refresh();
     m_images.refresh();
     m_drawingPanels.refresh();
+    m_currentProperties.refresh();
     showState();
 }
 
@@ -300,6 +308,7 @@ void MainFrame::applyColours()
     m_layers.setDarkBackground(isDark);
     entities().setDarkBackground(isDark);
     m_images.setDarkBackground(isDark);
+    m_currentProperties.rebuild();
     wxStatusBar* bar = GetStatusBar();
     bar->SetBackgroundColour(wxGuiColour(ut::EGuiColor::PanelsetIconStripBase));
     bar->SetForegroundColour(wxGuiColour(ut::EGuiColor::Grey8));

@@ -3,6 +3,7 @@
 #include "app/canvasmenu.h"
 #include "app/documents.h"
 #include "app/drawingpanels.h"
+#include "app/opendrawings.h"
 #include "command/commands.h"
 #include "drawing/selection.h"
 #include "host/contextmenupopup.h"
@@ -13,6 +14,7 @@
 #include "panels/layerscontroller.h"
 #include "panels/partscontroller.h"
 #include "panels/screenscontroller.h"
+#include "props/currentpropertiescontroller.h"
 #include "units/unitscontroller.h"
 
 #include <wx/frame.h>
@@ -63,6 +65,7 @@ public:
     PartsController& parts() { return m_parts; }
     UnitsController& units() { return m_units; }
     ScreensController& screens() { return m_screens; }
+    CurrentPropertiesController& currentProperties() { return m_currentProperties; }
     const CanvasTip& canvasTip() const { return *m_canvasTip; }
     wxNotebook& panels() { return *m_panels; }
     /// Those below, which are seen beside the others.
@@ -104,6 +107,8 @@ private:
     UnitsController m_units;
     OdGePoint3d m_cursor; // in the coordinates of the drawing
     ScreensController m_screens;
+    OpenDrawings m_openDrawings;
+    CurrentPropertiesController m_currentProperties;
     Commands m_commands;
     CanvasMenu m_canvasMenu;
     ContextMenuPopup m_contextMenu;

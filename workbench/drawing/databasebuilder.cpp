@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <numbers>
 
@@ -13,13 +14,26 @@ namespace {
 
 constexpr double degree = std::numbers::pi / 180.0;
 
-/// The colour of an entity or a layer; what is no colour counts as by layer.
+/// What is no index counts as by layer.
+OdCmColor colorOf(int index)
+{
+    return OdCmColor::fromIndex(static_cast<std::uint16_t>(index < 0 || index > 256 ? 256 : index));
+}
+
+/// The colour of an entity or a layer.
 OdCmColor colorOf(const DL_Attributes& attributes)
 {
     if (const int rgb = attributes.getColor24(); rgb >= 0)
         return OdCmColor::fromRGB((rgb >> 16) & 0xFF, (rgb >> 8) & 0xFF, rgb & 0xFF);
-    const int index = attributes.getColor();
-    return OdCmColor::fromIndex(static_cast<std::uint16_t>(index < 0 || index > 256 ? 256 : index));
+    return colorOf(attributes.getColor());
+}
+
+/// What is no lineweight counts as by layer.
+int lineWeightOf(const std::string& value)
+{
+    int weight = OdDb::kLnWtByLayer;
+    std::from_chars(value.data(), value.data() + value.size(), weight);
+    return weight < OdDb::kLnWtByLwDefault || weight > 211 ? OdDb::kLnWtByLayer : weight;
 }
 
 bool isNamed(const std::string& name, const wchar_t* expected)
@@ -41,6 +55,10 @@ std::unique_ptr<OdDbDatabase> DatabaseBuilder::finish()
             reference->blockTableRecord = block->objectId();
     if (const OdDbLayerTableRecord* layer = m_database->findLayer(m_currentLayer))
         m_database->setCurrentLayer(layer->objectId());
+    if (const OdDbLinetypeTableRecord* linetype = m_database->findLinetype(m_currentLinetype))
+        m_database->setCELTYPE(linetype->objectId());
+    if (const OdDbDimStyleTableRecord* style = m_database->findDimStyle(m_currentDimStyle))
+        m_database->setDIMSTYLE(style->objectId());
     m_database->formatter().setUnits(m_units);
     return std::move(m_database);
 }
@@ -354,6 +372,12 @@ void DatabaseBuilder::setVariableString(const std::string& key, const std::strin
 {
     if (key == "$CLAYER")
         m_currentLayer = text(value);
+    else if (key == "$CELTYPE")
+        m_currentLinetype = text(value);
+    else if (key == "$DIMSTYLE")
+        m_currentDimStyle = text(value);
+    else if (key == "$CELWEIGHT") // a number of a kind that dxflib hands on as it stands
+        m_database->setCELWEIGHT(lineWeightOf(value));
 }
 
 void DatabaseBuilder::setVariableInt(const std::string& key, int value, int)
@@ -366,6 +390,8 @@ void DatabaseBuilder::setVariableInt(const std::string& key, int value, int)
         m_units.angularKind = static_cast<OdUnits::AngularKind>(std::clamp(value, 0, 4));
     else if (key == "$AUPREC")
         m_units.angularPrecision = std::clamp(value, 0, 8);
+    else if (key == "$CECOLOR")
+        m_database->setCECOLOR(colorOf(value));
 }
 
 } // namespace workbench

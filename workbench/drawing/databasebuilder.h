@@ -90,6 +90,8 @@ private:
     std::vector<std::pair<OdDbBlockReference*, std::wstring>> m_inserts; // not owned; their blocks may come later
     OdUnits m_units;
     std::wstring m_currentLayer;
+    std::wstring m_currentLinetype;
+    std::wstring m_currentDimStyle;
 };
 
 } // namespace workbench

@@ -106,6 +106,14 @@ void DrawingCanvas::fit(const Box& box)
     m_view.fit(box);
 }
 
+void DrawingCanvas::setView(const DrawingView& view)
+{
+    m_view.center = view.center;
+    m_view.scale = view.scale;
+    m_isFitted = false;
+    Refresh();
+}
+
 void DrawingCanvas::zoomBy(double factor, wxPoint center)
 {
     constexpr double smallestScale = 1e-15;

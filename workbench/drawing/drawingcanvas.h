@@ -43,6 +43,10 @@ public:
     void setSnapping(bool snapping) { m_isSnapping = snapping; }
 
     const DrawingView& view() const { return m_view; }
+    /// The view's middle and scale; the size is the canvas's own.
+    void setView(const DrawingView& view);
+    /// Whether all of the drawing is shown, since nobody has moved the view.
+    bool isFitted() const { return m_isFitted; }
     /// How many entities of the model space the last paint drew.
     std::size_t drawnEntityCount() const { return m_drawnEntityCount; }
 
