@@ -49,6 +49,7 @@ CurrentPropertiesController::CurrentPropertiesController(OdApDocManager& documen
                                             linetypeSize, [this] { return &m_documents; });
     connect(m_linetypes.get(), &velm::ILineTypeModel::currentLineTypeChanged, this,
             &CurrentPropertiesController::setLinetype);
+    connect(m_linetypes.get(), &QAbstractItemModel::modelReset, this, &CurrentPropertiesController::noteLoaded);
     buildColors();
     buildLineWeights();
     buildArrowheads();
@@ -160,6 +161,7 @@ void CurrentPropertiesController::show()
     }
     const QScopedValueRollback showing(m_isShowing, true);
     const PropertyTargets shown = targets();
+    m_shownDocument = m_documents.curDocument();
     showColor(shown);
     showLinetype(shown);
     showLineWeight(shown);
@@ -217,7 +219,7 @@ void CurrentPropertiesController::showArrowhead(const PropertyTargets& targets)
 void CurrentPropertiesController::setColor(int row)
 {
     // The row of several colours stands for none that could be set.
-    const bool isColor = m_colors->getColorObject(row)->type() != velm::ColorObject::Type::Varies;
+    const bool isColor = m_colors->getColorObject(row)->getTypeAsEnum() != velm::ColorObject::Type::Varies;
     edited(isColor && targets().setColor(m_colors->color(row)));
 }
 
@@ -227,6 +229,13 @@ void CurrentPropertiesController::setLinetype()
     const std::optional<OdDbObjectId> linetype = m_linetypes->lineTypeId(m_linetypes->getCurrentIndex());
     if (!m_isShowing && linetype && !linetype->isNull())
         edited(targets().setLinetype(*linetype));
+}
+
+void CurrentPropertiesController::noteLoaded()
+{
+    // The model has other rows for the same drawing, and not by this object: linetypes were loaded.
+    if (!m_isShowing && m_linetypes->rowCount() > 0 && m_documents.curDocument() == m_shownDocument)
+        edited(true);
 }
 
 void CurrentPropertiesController::setLineWeight()

@@ -88,6 +88,7 @@ private:
     void showArrowhead(const PropertyTargets& targets);
     void setColor(int row);
     void setLinetype();
+    void noteLoaded();
     void setLineWeight();
     void setArrowhead();
     void edited(bool changedSomething);
@@ -102,8 +103,9 @@ private:
     Owned<velm::IArrowHeadModel> m_arrowheads;
     std::vector<velm::ArrowHeadRecord> m_commonArrowheads;
     velm::ArrowHeadRecord m_extraArrowhead;
-    int m_defaultLineWeight = 0; // that the lineweights were built with
-    bool m_isShowing = false;    // the models' signals are echoes of this object's own doing
-    bool m_isOutdated = false;   // to be built anew once no dialog is open
+    const OdApDocument* m_shownDocument = nullptr; // not owned; to compare with
+    int m_defaultLineWeight = 0;                   // that the lineweights were built with
+    bool m_isShowing = false;                      // the models' signals are echoes of this object's own doing
+    bool m_isOutdated = false;                     // to be built anew once no dialog is open
 };
 } // namespace workbench
