@@ -86,8 +86,6 @@ T.AbstractButton {
         highlightedIndex = currentIndex;
         place();
         list.show();
-        rows.forceLayout();
-        rows.positionViewAtIndex(highlightedIndex, ListView.Contain);
     }
 
     function close() {
@@ -163,6 +161,7 @@ T.AbstractButton {
     onVisibleChanged: close()
     onEnabledChanged: close()
     onModelChanged: rowsChanged()
+    onHighlightedIndexChanged: rows.showHighlighted()
 
     Keys.onPressed: event => {
         const from = opened ? highlightedIndex : currentIndex;
@@ -299,6 +298,11 @@ T.AbstractButton {
 
             property point lastPlace
 
+            function showHighlighted() {
+                forceLayout();
+                positionViewAtIndex(control.highlightedIndex, ListView.Contain);
+            }
+
             objectName: "rows"
             // The window's contents take its size later.
             x: 1
@@ -307,9 +311,9 @@ T.AbstractButton {
             height: list.height - 2
             clip: true
             model: list.visible ? control.model : null
-            currentIndex: control.highlightedIndex
-            highlightMoveDuration: 0
-            highlightResizeDuration: 0
+            // The highlight is not the view's: another model would move that.
+            currentIndex: -1
+            onCountChanged: showHighlighted()
             boundsBehavior: Flickable.StopAtBounds
             // qmllint disable unqualified
             delegate: ItemDelegate {
@@ -322,7 +326,7 @@ T.AbstractButton {
                 width: ListView.view.width
                 height: list.rowHeight
                 enabled: kind !== "varies"
-                highlighted: ListView.isCurrentItem
+                highlighted: control.highlightedIndex === index
                 focusPolicy: Qt.NoFocus
                 font.bold: control.currentIndex === index
                 onClicked: control.finish(index)
