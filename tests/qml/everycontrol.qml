@@ -15,6 +15,7 @@ PanelPage {
         Popup { Label {} } ToolTip {}
         IconButton { mark: "add"; text: "Add" } IconButton { toolIcon: "line"; text: "Line" } SearchField {} ColorSwatch { diagonal: true } DialogButtons {}
         PlainListView { model: ["a", "b"] } ModelTable {} PlaceholderMessage { mark: "info"; text: "Nothing" } Mark { name: "check" }
+        ColorCombo { model: null } LineTypeCombo { model: null } LineWeightCombo { model: null } ArrowHeadCombo { model: null }
         Label { text: Settings.tooltipDelay + QtFontConfig.defaultRenderType }
     }
 }

@@ -2,10 +2,15 @@
 
 #include "velm/drawingprops/ilinetypemodel.h"
 
+#include <QJSEngine>
+
 namespace velm {
 LineTypeObject::LineTypeObject(QString name, const OdDbObjectId& id, const IGuiController& gui)
     : m_name(std::move(name)), m_id(id), m_gui(gui)
-{}
+{
+    // Pages read rows by calls, which leave what they give to the engine.
+    QJSEngine::setObjectOwnership(this, QJSEngine::CppOwnership);
+}
 
 QImage LineTypeObject::lineTypePreview(int width, int height) const
 {

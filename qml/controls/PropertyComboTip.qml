@@ -1,0 +1,53 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Window
+import Tandolin
+import Tandolin.API.Core.Themes
+
+// A tool tip in a window of its own: in a page as low as its controls one of the page would lie over them.
+QtObject {
+    id: tip
+
+    required property Item control
+    required property string text
+    property bool wanted: false
+
+    onWantedChanged: {
+        if (!wanted)
+            shown.hide();
+    }
+
+    readonly property Timer delay: Timer {
+        objectName: "tipDelay"
+        interval: Settings.tooltipDelay
+        running: tip.wanted && tip.text !== ""
+        onTriggered: {
+            const place = tip.control.mapToGlobal(0, tip.control.height + 4);
+            shown.x = place.x;
+            shown.y = place.y;
+            shown.show();
+        }
+    }
+    readonly property Window window: Window {
+        id: shown
+
+        objectName: "tip"
+        flags: Qt.ToolTip | Qt.FramelessWindowHint | Qt.NoDropShadowWindowHint | Qt.WindowDoesNotAcceptFocus | Qt.WindowTransparentForInput
+        color: Colors.popup
+        width: Math.ceil(label.implicitWidth) + 2 * Metrics.padding
+        height: Math.ceil(label.implicitHeight) + 6
+
+        Rectangle {
+            anchors.fill: parent
+            color: "transparent"
+            border.color: Colors.outline
+        }
+        Label {
+            id: label
+
+            anchors.centerIn: parent
+            font.pointSize: Metrics.smallFontSize
+            text: tip.text
+        }
+    }
+}
