@@ -8,7 +8,6 @@
 #include "velm/drawingprops/linetypemodel.h"
 #include "velm/drawingprops/lineweightmodel.h"
 
-#include <QAbstractItemModelTester>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QtTest>
@@ -64,15 +63,6 @@ public:
         bar.refresh();
         bar.hasDialog = [this] { return dialogs.isOpen; };
         bar.onEdited = [this] { ++edits; };
-        const auto test = [this] {
-            testers.clear();
-            for (QAbstractItemModel* model :
-                 std::initializer_list<QAbstractItemModel*>{bar.colors(), bar.linetypes(), bar.lineWeights()})
-                testers.push_back(std::make_unique<QAbstractItemModelTester>(
-                    model, QAbstractItemModelTester::FailureReportingMode::QtTest));
-        };
-        test();
-        QObject::connect(&bar, &CurrentPropertiesController::modelsChanged, &bar, test);
     }
 
     OdDbLeader* addLeader()
@@ -120,7 +110,6 @@ public:
     CurrentPropertiesController bar{documents, selection, gui, dialogs};
     OdDbObjectId dashed;
     int edits = 0;
-    std::vector<std::unique_ptr<QAbstractItemModelTester>> testers;
 };
 } // namespace
 

@@ -100,9 +100,10 @@ void CurrentPropertiesController::buildArrowheads()
     m_commonArrowheads = arrowheadRecords(arrowheadSize, arrowheadColor());
     if (!m_extraArrowhead.internalName.isEmpty())
         m_extraArrowhead = arrowheadRecord(m_extraArrowhead.internalName, arrowheadSize, arrowheadColor());
+    // A reactor it is in name alone, and it may end after the documents.
     m_arrowheads.reset(
         velm::createArrowHeadModel({m_commonArrowheads, m_extraArrowhead, 0, [this] { return askForArrowhead(); }},
-                                   m_gui, m_dialogs, arrowheadSize, [this] { return &m_documents; })
+                                   m_gui, m_dialogs, arrowheadSize, {})
             .release());
     connect(m_arrowheads.get(), &velm::IArrowHeadModel::currentArrowHeadChanged, this,
             &CurrentPropertiesController::setArrowhead);
