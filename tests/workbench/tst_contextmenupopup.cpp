@@ -52,7 +52,7 @@ void ContextMenuPopupTest::init()
     if (!file.open(QIODevice::WriteOnly) || file.write(smallDrawing()) < 0)
         qFatal("a scratch file can't be written");
     file.close();
-    m_driver.ask([&] { m_frame.openDrawing(velm::wxFromQt(file.fileName())); });
+    m_driver.ask([&] { openAlone(m_frame, file.fileName()); });
     m_driver.waitFor("the drawing", [&] { return m_frame.canvas().drawnEntityCount() == 2; });
     m_driver.click(*m_frame.commandLine().input());
     waitForKeyboardInCommandLine();

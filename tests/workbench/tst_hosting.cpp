@@ -76,7 +76,7 @@ void HostingTest::init()
 {
     const QString drawing = write("small.dxf", smallDrawing());
     m_driver.ask([&] {
-        m_frame.openDrawing(velm::wxFromQt(drawing));
+        openAlone(m_frame, drawing);
         m_frame.panels().SetSelection(0);
     });
     m_driver.waitFor("the layers on the screen", [&] { return m_driver.hasItem("layers/Beta/name"); });

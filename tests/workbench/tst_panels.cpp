@@ -46,7 +46,7 @@ void PanelsTest::init()
                "0\nENDSEC\n0\nEOF\n");
     file.close();
     m_driver.ask([&] {
-        m_frame.openDrawing(velm::wxFromQt(file.fileName()));
+        openAlone(m_frame, file.fileName());
         m_frame.showPanel("Structure");
         m_frame.showPanel("Properties");
     });

@@ -65,7 +65,7 @@ void PopupsTest::init()
         velm::Settings::instance()->setTooltipDelay(50);
         m_frame.SetSize(1000, 760);
         m_frame.showPanel("Screens");
-        m_frame.openDrawing(velm::wxFromQt(file.fileName()));
+        openAlone(m_frame, file.fileName());
     });
     moveFrame({60, 30});
     m_driver.waitFor("the drawing", [&] { return m_frame.canvas().drawnEntityCount() == 2; });

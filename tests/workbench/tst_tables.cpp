@@ -46,7 +46,7 @@ void TablesTest::init()
                "0\nENDSEC\n0\nEOF\n");
     file.close();
     m_driver.ask([&] {
-        m_frame.openDrawing(velm::wxFromQt(file.fileName()));
+        openAlone(m_frame, file.fileName());
         m_frame.showPanel("Entities");
     });
     m_driver.waitFor("the table", [&] { return m_driver.hasItem("header:Type"); });

@@ -36,6 +36,13 @@ int runInWorkbench(int argc, char** argv)
     });
 }
 
+/// Opens a drawing as it is in its file, and no other. For use inside ask() only.
+inline void openAlone(workbench::MainFrame& frame, const QString& file)
+{
+    frame.documents().closeAll();
+    frame.openDrawing(velm::wxFromQt(file));
+}
+
 /// A drawing with the layers "0", "Alpha" and "Beta" and a line on each of the latter.
 inline QByteArray smallDrawing()
 {

@@ -41,6 +41,12 @@ PanelPage {
                 rows: page.controller.contents
             }
             InfoRows {
+                objectName: "currentValues"
+                Layout.fillWidth: true
+                title: qsTr("What new entities get")
+                rows: page.controller.current
+            }
+            InfoRows {
                 Layout.fillWidth: true
                 title: qsTr("How values are written")
                 rows: page.controller.units

@@ -2,6 +2,8 @@
 
 #include "od/oddbdatabase.h"
 #include "od/oddbdimension.h"
+#include "panels/objectfields.h"
+#include "panels/propertytexts.h"
 #include "velm/bridge/conversions.h"
 
 #include <QDir>
@@ -62,6 +64,7 @@ void DrawingInfo::documentBecameCurrent(OdApDocument* document)
     m_fileName.clear();
     m_folder.clear();
     m_contents.clear();
+    m_current.clear();
     m_units.clear();
     m_entityCount = 0;
     if (document) {
@@ -82,6 +85,12 @@ void DrawingInfo::documentBecameCurrent(OdApDocument* document)
             m_contents.append(row(kind, QString::number(count)));
         m_contents.append(row(tr("Layers"), QString::number(database->layers().size())));
         m_contents.append(row(tr("Linetypes"), QString::number(database->linetypes().size())));
+
+        m_current.append(row(tr("Layer"), recordText(database->currentLayer())));
+        m_current.append(row(tr("Colour"), colorText(database->getCECOLOR())));
+        m_current.append(row(tr("Linetype"), recordText(database->getCELTYPE())));
+        m_current.append(row(tr("Lineweight"), lineWeightText(database->getCELWEIGHT())));
+        m_current.append(row(tr("Dimension style"), recordText(database->getDIMSTYLE())));
 
         const OdUnitsFormatter& formatter = database->formatter();
         m_units.append(row(tr("A length of 12.5"), velm::toQt(formatter.formatLinear(12.5))));

@@ -13,6 +13,7 @@ class DrawingInfo : public QObject, private OdApDocManagerReactor
     Q_PROPERTY(QString fileName READ fileName NOTIFY changed)
     Q_PROPERTY(QString folder READ folder NOTIFY changed)
     Q_PROPERTY(QVariantList contents READ contents NOTIFY changed)
+    Q_PROPERTY(QVariantList current READ current NOTIFY changed)
     Q_PROPERTY(QVariantList units READ units NOTIFY changed)
     Q_PROPERTY(int entityCount READ entityCount NOTIFY changed)
 public:
@@ -25,6 +26,8 @@ public:
     QString folder() const { return m_folder; }
     /// Rows of "label" and "value".
     QVariantList contents() const { return m_contents; }
+    /// What new entities get.
+    QVariantList current() const { return m_current; }
     QVariantList units() const { return m_units; }
     /// In the model and the paper spaces.
     int entityCount() const { return m_entityCount; }
@@ -41,6 +44,7 @@ private:
     QString m_fileName;
     QString m_folder;
     QVariantList m_contents;
+    QVariantList m_current;
     QVariantList m_units;
     int m_entityCount = 0;
 };
