@@ -113,10 +113,11 @@ void ColourDialogTest::aClickChoosesExactly()
     QFETCH(QString, item);
     QFETCH(int, flags);
     open(OdCmColor::fromIndex(3), static_cast<unsigned>(flags));
-    // The second click on a chosen one takes nothing back.
     m_driver.clickItem(item);
     m_driver.waitFor("another colour", [&] { return m_driver.property("newName", "text") != "Green"; });
-    m_driver.clickItem(item);
+    // A second click on a button takes nothing back; on a cell, it would end the dialog if it came soon enough.
+    if (!item.startsWith("color"))
+        m_driver.clickItem(item);
     m_driver.clickItem("accept");
     QTEST(answer().value_or(OdCmColor::fromIndex(3)), "color");
 }

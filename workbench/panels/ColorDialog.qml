@@ -67,7 +67,9 @@ PanelPage {
 
         required property string name
         required property string label
-        property int value
+        required property real share
+        // -1 while there is no colour to show.
+        readonly property int value: page.controller.color.a === 0 ? -1 : Math.round(share * 255)
 
         spacing: Metrics.spacing
 
@@ -80,7 +82,7 @@ PanelPage {
             Layout.fillWidth: true
             to: 255
             stepSize: 1
-            value: channel.value
+            value: Math.max(0, channel.value)
             Accessible.name: channel.label
             onMoved: page.setChannel(channel.name, value)
         }
@@ -111,8 +113,8 @@ PanelPage {
 
             // What is typed stays as it is, as long as it says the same.
             function show() {
-                if (text === "" ? !activeFocus : Number(text) !== channel.value)
-                    text = channel.value;
+                if (text === "" || Number(text) !== channel.value)
+                    text = channel.value < 0 ? "" : channel.value;
             }
         }
         onValueChanged: field.show()
@@ -182,6 +184,7 @@ PanelPage {
 
                 objectName: "standard"
                 cellSize: 22
+                outlined: true
                 indices: [1, 2, 3, 4, 5, 6, 7, 8, 9]
                 Accessible.name: qsTr("Standard colours")
             }
@@ -190,6 +193,7 @@ PanelPage {
 
                 objectName: "greys"
                 cellSize: 22
+                outlined: true
                 indices: [250, 251, 252, 253, 254, 255]
                 Accessible.name: qsTr("Greys")
             }
@@ -230,17 +234,17 @@ PanelPage {
             Channel {
                 name: "red"
                 label: qsTr("Red")
-                value: Math.round(page.controller.color.r * 255)
+                share: page.controller.color.r
             }
             Channel {
                 name: "green"
                 label: qsTr("Green")
-                value: Math.round(page.controller.color.g * 255)
+                share: page.controller.color.g
             }
             Channel {
                 name: "blue"
                 label: qsTr("Blue")
-                value: Math.round(page.controller.color.b * 255)
+                share: page.controller.color.b
             }
             RowLayout {
                 spacing: Metrics.spacing
@@ -252,7 +256,7 @@ PanelPage {
                 TextField {
                     id: hex
 
-                    readonly property string wanted: String(Qt.rgba(page.controller.color.r, page.controller.color.g, page.controller.color.b, 1))
+                    readonly property string wanted: page.controller.color.a === 0 ? "" : String(page.controller.color)
 
                     objectName: "hex"
                     Layout.preferredWidth: 90

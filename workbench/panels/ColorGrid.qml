@@ -10,6 +10,8 @@ Item {
     required property var indices
     property int columns: indices.length
     property int cellSize: 16
+    // Told from the background by a line instead of a gap.
+    property bool outlined: false
     readonly property int position: indices.indexOf(controller.index)
     // What the mouse is over; -1 for nothing.
     readonly property int hoveredIndex: mouse.containsMouse ? indexAt(mouse.mouseX, mouse.mouseY) : -1
@@ -63,11 +65,11 @@ Item {
             objectName: "color" + modelData
             x: index % grid.columns * grid.cellSize
             y: Math.floor(index / grid.columns) * grid.cellSize
-            width: grid.cellSize
-            height: grid.cellSize
+            width: grid.cellSize - (grid.outlined ? 2 : 0)
+            height: width
             color: grid.controller.colorOf(modelData)
             border.width: 1
-            border.color: Colors.background
+            border.color: grid.outlined ? Colors.outline : Colors.background
         }
         // qmllint enable unqualified
     }
@@ -77,8 +79,8 @@ Item {
         visible: grid.position >= 0
         x: grid.position % grid.columns * grid.cellSize - 1
         y: Math.floor(grid.position / grid.columns) * grid.cellSize - 1
-        width: grid.cellSize + 2
-        height: grid.cellSize + 2
+        width: grid.cellSize + (grid.outlined ? 0 : 2)
+        height: width
         color: "transparent"
         border.width: 2
         border.color: "white"

@@ -4,11 +4,10 @@
 #include "app/velmsession.h"
 #include "app/workbenchapp.h"
 #include "od/oddbdatabase.h"
-#include "panels/layertablemodel.h"
 #include "tour/driver.h"
-#include "velm/bridge/conversions.h"
 #include "velm/bridge/externalfunctions.h"
 #include "velm/dialogs/idialogfactory.h"
+#include "velm/models/propertieslistmodel.h"
 
 #include <QVariant>
 
@@ -98,18 +97,27 @@ void ColourTour::chooseTrueColour()
 
 void ColourTour::writeLineWeightsInInches()
 {
-    m_driver.ask([&] { m_frame.showPanel("Layers"); });
-    const auto text = [&] {
-        const auto* table = m_frame.layers().table();
-        const int column = table->mapSourceColumnToProxy(LayerTableModel::LineWeightColumn);
-        const OdString first = velm::odFromQt(table->index(0, 0).data().toString());
-        m_frame.documents().current()->database()->findLayer(first)->setLineWeight(50);
-        return table->index(0, column).data().toString();
+    using List = velm::PropertiesListModel;
+    m_driver.ask([&] {
+        m_frame.showPanel("Properties");
+        m_frame.selection().set(m_frame.documents().current()->database()->modelSpace()->entities()[0]);
+    });
+    const auto offers = [&](const char* text) {
+        return m_driver.ask([&] {
+            const List* list = m_frame.properties().properties();
+            for (int row = 0; list && row < list->rowCount(); ++row)
+                if (list->data(list->index(row), List::LabelRole) == "Lineweight")
+                    return list->data(list->index(row), List::ChoicesRole).toStringList().contains(text);
+            return false;
+        });
     };
     m_driver.command("LWUNITS INCHES");
-    m_driver.waitFor("a lineweight in inches", [&] { return text() == "0.020\""; });
+    m_driver.waitFor("lineweights in inches", [&] { return offers("0.020\""); });
+    m_driver.clickItem("property:Lineweight");
     m_save("lineweights-in-inches");
+    m_driver.key("Escape");
     m_driver.command("LWUNITS MM");
-    m_driver.waitFor("a lineweight in millimetres", [&] { return text() == "0.50 mm"; });
+    m_driver.waitFor("lineweights in millimetres", [&] { return offers("0.50 mm"); });
+    m_driver.ask([&] { m_frame.selection().clear(); });
 }
 } // namespace workbench
