@@ -10,7 +10,7 @@ ColorObject::ColorObject(Type type, int colorIndex, QColor color, QString name, 
     QJSEngine::setObjectOwnership(this, QJSEngine::CppOwnership);
 }
 
-QString ColorObject::typeText() const
+QString ColorObject::getType() const
 {
     switch (m_type) {
     case Type::Custom:
