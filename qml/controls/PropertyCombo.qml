@@ -110,13 +110,19 @@ T.AbstractButton {
         }
     }
 
-    // Below the box, or above it where there is more room, on the screen that the box is on.
+    // The screen that the box is on, which need not be that of the page's window.
+    function screenOfBox(): var {
+        const centre = mapToGlobal(width / 2, height / 2);
+        const screens = Array.from(Qt.application.screens);
+        const isOn = screen => centre.x >= screen.virtualX && centre.x < screen.virtualX + screen.width
+            && centre.y >= screen.virtualY && centre.y < screen.virtualY + screen.height;
+        return screens.find(isOn) ?? screens[0];
+    }
+
+    // Below the box, or above it where there is more room.
     function place() {
         const box = mapToGlobal(0, 0);
-        const inside = screen => box.x + width / 2 >= screen.virtualX && box.x + width / 2 < screen.virtualX + screen.width
-            && box.y + height / 2 >= screen.virtualY && box.y + height / 2 < screen.virtualY + screen.height;
-        const screens = Array.from(Qt.application.screens);
-        const screen = screens.find(inside) ?? screens[0];
+        const screen = screenOfBox();
         const wantedHeight = count * list.rowHeight + 2;
         const below = screen.virtualY + screen.height - (box.y + height + 1);
         const above = box.y - 1 - screen.virtualY;
@@ -165,6 +171,7 @@ T.AbstractButton {
 
     Keys.onPressed: event => {
         const from = opened ? highlightedIndex : currentIndex;
+        const page = opened ? Math.max(1, Math.floor(rows.height / list.rowHeight) - 1) : count;
         const vertical = event.key === Qt.Key_Up || event.key === Qt.Key_Down;
         event.accepted = true;
         if (event.key === Qt.Key_F4 || vertical && event.modifiers & Qt.AltModifier)
@@ -175,10 +182,14 @@ T.AbstractButton {
             moveTo(nearest(from < 0 ? count - 1 : from - 1, -1));
         else if (event.key === Qt.Key_Down)
             moveTo(nearest(from + 1, 1));
-        else if (event.key === Qt.Key_Home || event.key === Qt.Key_PageUp)
+        else if (event.key === Qt.Key_Home)
             moveTo(nearest(0, 1));
-        else if (event.key === Qt.Key_End || event.key === Qt.Key_PageDown)
+        else if (event.key === Qt.Key_End)
             moveTo(nearest(count - 1, -1));
+        else if (event.key === Qt.Key_PageUp)
+            moveTo(nearest(Math.max(0, from - page), 1));
+        else if (event.key === Qt.Key_PageDown)
+            moveTo(nearest(Math.min(count - 1, from + page), -1));
         else if (opened && event.key === Qt.Key_Escape)
             close();
         else if (typed.take(event))
@@ -272,7 +283,7 @@ T.AbstractButton {
             while (Math.abs(turned) >= 120) {
                 turned += 120 * step;
                 if (!control.opened)
-                    control.moveTo(control.nearest(control.currentIndex < 0 && step < 0 ? -1 : control.currentIndex + step, step));
+                    control.moveTo(control.nearest(control.currentIndex + step, step));
             }
         }
     }

@@ -8,7 +8,8 @@ import Tandolin.API.Core.Themes
 QtObject {
     id: tip
 
-    required property Item control
+    // The combo.
+    required property var control
     required property string text
     property bool wanted: false
 
@@ -22,9 +23,11 @@ QtObject {
         interval: Settings.tooltipDelay
         running: tip.wanted && tip.text !== ""
         onTriggered: {
-            const place = tip.control.mapToGlobal(0, tip.control.height + 4);
-            shown.x = place.x;
-            shown.y = place.y;
+            const screen = tip.control.screenOfBox();
+            const below = tip.control.mapToGlobal(0, tip.control.height + 4);
+            const fits = below.y + shown.height <= screen.virtualY + screen.height;
+            shown.x = Math.max(screen.virtualX, Math.min(below.x, screen.virtualX + screen.width - shown.width));
+            shown.y = fits ? below.y : tip.control.mapToGlobal(0, -4).y - shown.height;
             shown.show();
         }
     }

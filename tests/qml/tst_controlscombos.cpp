@@ -28,6 +28,7 @@ public:
     std::shared_ptr<OdDbDatabase> drawing = std::make_shared<OdDbDatabase>();
     QString unit = QStringLiteral("mm");
     int weights = 5;
+    wxColour ground = wxColour(255, 0, 255);
 
     Host()
     {
@@ -53,11 +54,12 @@ public:
                 loaded.ids.append(record->objectId());
             return true;
         };
-        gui.drawLineType = [](int width, int height, wxBitmap& bitmap, OdDbObjectId id, OdDbObjectId, const wxColour&) {
+        gui.drawLineType = [this](int width, int height, wxBitmap& bitmap, OdDbObjectId id, OdDbObjectId,
+                                  const wxColour&) {
             if (id.isNull())
                 return false;
             wxImage image(width, height);
-            image.SetRGB(wxRect(), 255, 0, 255);
+            image.SetRGB(wxRect(), ground.Red(), ground.Green(), ground.Blue());
             bitmap = wxBitmap(image);
             return true;
         };
@@ -107,7 +109,9 @@ class ShownCombo
 public:
     ShownCombo(const char* type, QAbstractItemModel& model, const char* more = "")
         : m_shown(m_engine.load(
-              QByteArray("Pane { id: root; implicitWidth: 300; implicitHeight: 200; property var model: null\n") +
+              QByteArray("import Tandolin.API.Core.Themes.Engine\n"
+                         "Pane { function setTheme(theme: int) { Theme.setColorTheme(theme) }\n"
+                         " id: root; implicitWidth: 300; implicitHeight: 200; property var model: null\n") +
                   type + " { id: combo; objectName: 'box'; width: 180; model: root.model; focus: true\n" + more +
                   " }\n" + "Button { objectName: 'other'; y: 100; text: 'x'; focusPolicy: Qt.NoFocus } }",
               {{QStringLiteral("model"), QVariant::fromValue<QObject*>(&model)}}))
@@ -392,6 +396,13 @@ void TestControlsCombos::lineTypesShowTheirPreviews()
     ShownCombo combo("LineTypeCombo", *model);
     QVERIFY(combo.shown().isReady());
     QTRY_COMPARE(combo.pictureColor(), QColor(255, 0, 255));
+    // Its ground is the theme's.
+    host.ground = wxColour(255, 255, 0);
+    QMetaObject::invokeMethod(combo.shown().page(), "setTheme", Q_ARG(int, 1));
+    QTRY_COMPARE(combo.pictureColor(), QColor(255, 255, 0));
+    host.ground = wxColour(255, 0, 255);
+    QMetaObject::invokeMethod(combo.shown().page(), "setTheme", Q_ARG(int, 0));
+    QTRY_COMPARE(combo.pictureColor(), QColor(255, 0, 255));
     // Where the varies row is current, it has no picture, and it can't be chosen.
     model->setIsVaries(true);
     model->refresh(false, model->lineTypeId(2).value());
@@ -489,6 +500,9 @@ void TestControlsCombos::theListFitsTheScreenAndScrolls()
         QTRY_VERIFY(combo.rowItem(95));
         QVERIFY(combo.rowItem(95)->property("highlighted").toBool());
         QVERIFY(combo.rows()->property("contentY").toDouble() > 0);
+        combo.shown().press(Qt::Key_PageUp);
+        const int shownRows = (list.height() - 2) / 24;
+        QCOMPARE(combo.highlighted(), 95 - (shownRows - 1));
         combo.shown().press(Qt::Key_Home);
         QTRY_VERIFY(combo.rowItem(0));
         combo.shown().press(Qt::Key_Escape);
