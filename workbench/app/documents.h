@@ -30,6 +30,7 @@ public:
     void next(bool forward);
 
     OdApDocument* current() const { return m_manager.curDocument(); }
+    size_t openCount() const { return m_manager.documents().size(); }
 
     std::function<void(const wxString&)> log; ///< takes the lines that tell how it went
 

@@ -68,7 +68,8 @@ QString CurrentPropertiesController::subject() const
 {
     if (!hasDrawing())
         return {};
-    const std::vector<OdDbEntity*>& entities = targets().entities();
+    const PropertyTargets present = targets();
+    const std::vector<OdDbEntity*>& entities = present.entities();
     if (entities.empty())
         return tr("New entities");
     return entities.size() == 1 ? velm::toQt(entityKind(*entities.front())) : tr("%1 entities").arg(entities.size());

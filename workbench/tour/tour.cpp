@@ -8,6 +8,7 @@
 #include "host/pagepanel.h"
 #include "od/oddbdatabase.h"
 #include "tour/colourtour.h"
+#include "tour/combotour.h"
 #include "tour/driver.h"
 #include "tour/imagetour.h"
 #include "tour/linetypetour.h"
@@ -370,6 +371,10 @@ int Tour::run(bool hasDrawing)
         {"units", [this](Tour*) { UnitsTour(m_driver, [this](const QString& name) { save(name); }).run(); }},
         {"colours", [this](Tour*) { ColourTour(m_driver, [this](const QString& name) { save(name); }).run(); }},
         {"linetypes", [this](Tour*) { LineTypeTour(m_driver, [this](const QString& name) { save(name); }).run(); }},
+        {"current-properties",
+         [this](Tour*) {
+             ComboTour(m_driver, write("other.dxf", smallDrawing), [this](const QString& name) { save(name); }).run();
+         }},
         {"tool-tip", screens(&ScreenTour::showTip)},
         {"screens", screens(&ScreenTour::showScreens)},
         {"popup", screens(&ScreenTour::openPopup)},
