@@ -32,9 +32,18 @@ PropertyCombo {
         // Drawn on the ground of the theme, in pixels of the screen.
         readonly property var ground: [Colors.dark, Colors.combo]
 
+        // A page that is made for another theme is there before the host's new colours are.
+        property bool isDue: false
+
         image: {
             const pixels = length => Math.round(length * Screen.devicePixelRatio);
-            return ground && kind === "" && width > 0 ? object?.lineTypePreview(pixels(width), pixels(height)) : null;
+            return isDue && ground && kind === "" && width > 0 ? object?.lineTypePreview(pixels(width), pixels(height)) : null;
+        }
+
+        Timer {
+            interval: 0
+            running: true
+            onTriggered: picture.isDue = true
         }
     }
 }

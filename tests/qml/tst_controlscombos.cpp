@@ -9,6 +9,7 @@
 #include "velm/units/settings.h"
 
 #include <QSignalSpy>
+#include <QTimer>
 #include <QWheelEvent>
 
 #include <wx/bitmap.h>
@@ -393,6 +394,9 @@ void TestControlsCombos::lineTypesShowTheirPreviews()
     Host host;
     const auto model = host.lineTypes();
     model->setCurrentLineType(model->lineTypeId(2).value());
+    // While a page is made for another theme, the host's colours aren't those of that theme.
+    host.ground = wxColour(192, 192, 192);
+    QTimer::singleShot(0, [&] { host.ground = wxColour(255, 0, 255); });
     ShownCombo combo("LineTypeCombo", *model);
     QVERIFY(combo.shown().isReady());
     QTRY_COMPARE(combo.pictureColor(), QColor(255, 0, 255));
