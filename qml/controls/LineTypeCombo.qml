@@ -9,7 +9,10 @@ PropertyCombo {
 
     // The model's texts for the rows behind the linetypes, of which there are three at most.
     readonly property string variesName: qsTranslate("velm::LineTypeModel", "*Varies*")
-    readonly property list<string> loadNames: [qsTranslate("velm::LineTypeModel", "Load..."), qsTranslate("velm::LineTypeModel", "Properties...")]
+    readonly property list<string> loadNames: [
+        qsTranslate("velm::LineTypeModel", "Load..."),
+        qsTranslate("velm::LineTypeModel", "Properties...")
+    ]
 
     function choose(row: int) {
         model.setCurrentIndexOrLoad(row);
