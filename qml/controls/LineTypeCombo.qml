@@ -9,7 +9,10 @@ PropertyCombo {
 
     // The model's texts for the rows behind the linetypes, of which there are three at most.
     readonly property string variesName: qsTranslate("velm::LineTypeModel", "*Varies*")
-    readonly property list<string> loadNames: [qsTranslate("velm::LineTypeModel", "Load..."), qsTranslate("velm::LineTypeModel", "Properties...")]
+    readonly property list<string> loadNames: [
+        qsTranslate("velm::LineTypeModel", "Load..."),
+        qsTranslate("velm::LineTypeModel", "Properties...")
+    ]
 
     function choose(row: int) {
         model.setCurrentIndexOrLoad(row);
@@ -32,9 +35,18 @@ PropertyCombo {
         // Drawn on the ground of the theme, in pixels of the screen.
         readonly property var ground: [Colors.dark, Colors.combo]
 
+        // A page that is made for another theme is there before the host's new colours are.
+        property bool isDue: false
+
         image: {
             const pixels = length => Math.round(length * Screen.devicePixelRatio);
-            return ground && kind === "" && width > 0 ? object?.lineTypePreview(pixels(width), pixels(height)) : null;
+            return isDue && ground && kind === "" && width > 0 ? object?.lineTypePreview(pixels(width), pixels(height)) : null;
+        }
+
+        Timer {
+            interval: 0
+            running: true
+            onTriggered: picture.isDue = true
         }
     }
 }

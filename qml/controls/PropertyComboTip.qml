@@ -35,7 +35,8 @@ QtObject {
         id: shown
 
         objectName: "tip"
-        flags: Qt.ToolTip | Qt.FramelessWindowHint | Qt.NoDropShadowWindowHint | Qt.WindowDoesNotAcceptFocus | Qt.WindowTransparentForInput
+        flags: Qt.ToolTip | Qt.FramelessWindowHint | Qt.NoDropShadowWindowHint | Qt.WindowDoesNotAcceptFocus
+            | Qt.WindowTransparentForInput
         color: Colors.popup
         width: Math.ceil(label.implicitWidth) + 2 * Metrics.padding
         height: Math.ceil(label.implicitHeight) + 6

@@ -1,172 +1,11 @@
-#include "od/oddbdatabase.h"
-#include "shownpage.h"
-#include "support/fakehost.h"
-#include "velm/bridge/conversions.h"
-#include "velm/drawingprops/arrowheadmodel.h"
-#include "velm/drawingprops/colormodel.h"
-#include "velm/drawingprops/linetypemodel.h"
-#include "velm/drawingprops/lineweightmodel.h"
+#include "showncombo.h"
 #include "velm/units/settings.h"
 
 #include <QSignalSpy>
-#include <QWheelEvent>
-
-#include <wx/bitmap.h>
-#include <wx/image.h>
 
 using namespace velm;
-using velmtest::PageEngine;
-using velmtest::Shown;
-
-namespace {
-/// A host with the usual colours, four linetypes and as many lineweights as asked for.
-class Host
-{
-public:
-    velmtest::FakeGuiController gui;
-    velmtest::FakeDialogFactory dialogs;
-    std::shared_ptr<OdDbDatabase> drawing = std::make_shared<OdDbDatabase>();
-    QString unit = QStringLiteral("mm");
-    int weights = 5;
-    wxColour ground = wxColour(255, 0, 255);
-
-    Host()
-    {
-        gui.describe = [](const OdCmColor& color, wxColour, bool, int) {
-            static const char* const names[] = {"Red", "Yellow", "Green", "Cyan", "Blue", "Magenta", "White"};
-            ColorDescription description;
-            description.color = wxColour(color.red(), color.green(), color.blue());
-            description.name = color.isByLayer()                            ? "ByLayer"
-                               : color.isByBlock()                          ? "ByBlock"
-                               : color.isByACI() && color.colorIndex() <= 7 ? names[color.colorIndex() - 1]
-                                                                            : "Picked";
-            description.drawDiagonal = color.isByBlock();
-            return description;
-        };
-        gui.lineWeights = [this] {
-            std::vector<std::pair<int, OdString>> table{{-1, L"ByLayer"}};
-            for (int weight = 0; weight < weights; ++weight)
-                table.emplace_back(weight * 25, odFromQt(QStringLiteral("%1 %2").arg(weight * 25).arg(unit)));
-            return table;
-        };
-        gui.lineTypes = [](OdDbDatabase* database, bool, OdDbObjectId&, bool, LoadedLineTypes& loaded) {
-            for (const OdDbLinetypeTableRecord* record : database->linetypes())
-                loaded.ids.append(record->objectId());
-            return true;
-        };
-        gui.drawLineType = [this](int width, int height, wxBitmap& bitmap, OdDbObjectId id, OdDbObjectId,
-                                  const wxColour&) {
-            if (id.isNull())
-                return false;
-            wxImage image(width, height);
-            image.SetRGB(wxRect(), ground.Red(), ground.Green(), ground.Blue());
-            bitmap = wxBitmap(image);
-            return true;
-        };
-        drawing->addLinetype(L"Dashed");
-    }
-
-    /// Flags 3: ByLayer, ByBlock, Red, Yellow, Green, Cyan, Blue, Magenta, White, [varies,] load.
-    std::unique_ptr<ColorModel> colours(bool varies = false, int flags = 3)
-    {
-        return std::make_unique<ColorModel>(gui, dialogs, flags, varies, QSize(16, 16), QColor(), QString());
-    }
-    /// ByBlock, ByLayer, Continuous, Dashed, load.
-    std::unique_ptr<LineTypeModel> lineTypes()
-    {
-        const LineTypeModelParams params{drawing.get(), 0, 0};
-        return std::make_unique<LineTypeModel>(params, gui, dialogs, QSize(60, 14), nullptr);
-    }
-    /// ByLayer, 0, 25, 50 ... mm.
-    std::unique_ptr<LineWeightModel> lineWeights()
-    {
-        return std::make_unique<LineWeightModel>(gui, LineWeightModelParams(true, true, false), QSize());
-    }
-    /// Closed, Dot, [the extra one,] load.
-    std::unique_ptr<ArrowHeadModel> arrowHeads(bool extra = false)
-    {
-        ArrowHeadModelParams params;
-        params.records = {{QStringLiteral("_CLOSEDFILLED"), QStringLiteral("Closed"), picture(Qt::red)},
-                          {QStringLiteral("_DOT"), QStringLiteral("Dot"), picture(Qt::green)}};
-        if (extra)
-            params.extra = {QStringLiteral("Mine"), QStringLiteral("Mine"), {}};
-        params.chooser = [this] { return chosenArrowHead; };
-        return std::make_unique<ArrowHeadModel>(params, gui, dialogs, QSize(32, 16), nullptr);
-    }
-    static QImage picture(const QColor& color)
-    {
-        QImage image(32, 16, QImage::Format_RGB32);
-        image.fill(color);
-        return image;
-    }
-
-    ArrowHeadRecord chosenArrowHead;
-};
-
-/// A page with a combo of a model, which is its first control, and another one.
-class ShownCombo
-{
-public:
-    ShownCombo(const char* type, QAbstractItemModel& model, const char* more = "")
-        : m_shown(m_engine.load(
-              QByteArray("import Tandolin.API.Core.Themes.Engine\n"
-                         "Pane { function setTheme(theme: int) { Theme.setColorTheme(theme) }\n"
-                         " id: root; implicitWidth: 300; implicitHeight: 200; property var model: null\n") +
-                  type + " { id: combo; objectName: 'box'; width: 180; model: root.model; focus: true\n" + more +
-                  " }\n" + "Button { objectName: 'other'; y: 100; text: 'x'; focusPolicy: Qt.NoFocus } }",
-              {{QStringLiteral("model"), QVariant::fromValue<QObject*>(&model)}}))
-    {
-        if (m_shown.isReady())
-            box()->forceActiveFocus();
-    }
-
-    Shown& shown() { return m_shown; }
-    QQuickItem* box() const { return m_shown.find("box"); }
-    QVariant value(const char* name) const { return box()->property(name); }
-    QString name() const { return value("currentName").toString(); }
-    int row() const { return value("currentIndex").toInt(); }
-    bool isOpen() const { return value("opened").toBool(); }
-    int highlighted() const { return value("highlightedIndex").toInt(); }
-    QQuickWindow* list() const { return qobject_cast<QQuickWindow*>(value("listWindow").value<QObject*>()); }
-    QQuickItem* rows() const { return list()->findChild<QQuickItem*>(QStringLiteral("rows")); }
-    QQuickItem* rowItem(int row) const
-    {
-        QQuickItem* found = nullptr;
-        QMetaObject::invokeMethod(rows(), "itemAtIndex", Q_RETURN_ARG(QQuickItem*, found), Q_ARG(int, row));
-        return found;
-    }
-    QString rowName(int row) const
-    {
-        const auto* label = rowItem(row)->findChild<QQuickItem*>(QStringLiteral("name"));
-        return label->property("text").toString();
-    }
-    QPoint centreOf(const QQuickItem* item) const
-    {
-        return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
-    }
-    void open() { m_shown.click(box()); }
-    void clickRow(int row) { QTest::mouseClick(list(), Qt::LeftButton, {}, centreOf(rowItem(row))); }
-    void turnWheel(int notches)
-    {
-        const QPoint place = centreOf(box());
-        QWheelEvent event(place, m_shown.window()->mapToGlobal(place), {}, QPoint(0, 120 * notches), Qt::NoButton, {},
-                          Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(m_shown.window(), &event);
-    }
-    /// What the box, or the list's row, shows as its picture.
-    QColor pictureColor(int listRow = -1)
-    {
-        QQuickItem* face = listRow < 0 ? box() : rowItem(listRow);
-        const QPointF inside(6 + 8, face->height() / 2);
-        QQuickWindow* window = listRow < 0 ? m_shown.window() : list();
-        return window->grabWindow().pixelColor(face->mapToScene(inside).toPoint());
-    }
-
-private:
-    PageEngine m_engine;
-    Shown m_shown;
-};
-} // namespace
+using velmtest::ComboHost;
+using velmtest::ShownCombo;
 
 /// The combos of drawing properties as a user works them.
 class TestControlsCombos : public QObject
@@ -179,11 +18,6 @@ private Q_SLOTS:
     void theBoxFollowsItsModelAlone();
     void theLoadRowOpensItsDialogOnceTheListHasGone();
     void lineTypesAreLoadedFromTheList();
-    void coloursShowTheirSwatches();
-    void theLayerMayBeShownAsBlack();
-    void lineTypesShowTheirPreviews();
-    void lineWeightsFollowTheirUnits();
-    void anArrowHeadWithoutAnObjectIsShownByThePage();
     void theListFitsTheScreenAndScrolls();
     void theListClosesByWhicheverRoad_data();
     void theListClosesByWhicheverRoad();
@@ -226,7 +60,7 @@ void TestControlsCombos::keysChooseAndOpen()
     QFETCH(const QList<int>, keys);
     QFETCH(const int, row);
     QFETCH(const bool, open);
-    Host host;
+    ComboHost host;
     const auto model = host.colours(true);
     model->setCurrentIndex(start);
     ShownCombo combo("ColorCombo", *model);
@@ -242,7 +76,7 @@ void TestControlsCombos::keysChooseAndOpen()
 
 void TestControlsCombos::theWheelNeverReachesTheLastRows()
 {
-    Host host;
+    ComboHost host;
     const auto model = host.colours(true);
     ShownCombo combo("ColorCombo", *model);
     QVERIFY(combo.shown().isReady());
@@ -266,7 +100,7 @@ void TestControlsCombos::theWheelNeverReachesTheLastRows()
 
 void TestControlsCombos::theBoxFollowsItsModelAlone()
 {
-    Host host;
+    ComboHost host;
     const auto model = host.arrowHeads();
     ShownCombo combo("ArrowHeadCombo", *model, "property int wanted: -1; onChosen: index => wanted = index");
     QVERIFY(combo.shown().isReady());
@@ -294,7 +128,7 @@ void TestControlsCombos::theBoxFollowsItsModelAlone()
 
 void TestControlsCombos::theLoadRowOpensItsDialogOnceTheListHasGone()
 {
-    Host host;
+    ComboHost host;
     const auto model = host.colours();
     model->setCurrentIndex(4);
     ShownCombo combo("ColorCombo", *model);
@@ -316,7 +150,7 @@ void TestControlsCombos::theLoadRowOpensItsDialogOnceTheListHasGone()
 
 void TestControlsCombos::lineTypesAreLoadedFromTheList()
 {
-    Host host;
+    ComboHost host;
     const auto lineTypes = host.lineTypes();
     lineTypes->setPropertiesAction([&] { host.dialogs.log += QStringLiteral("properties"); });
     lineTypes->refresh(false, lineTypes->lineTypeId(3).value());
@@ -346,141 +180,9 @@ void TestControlsCombos::lineTypesAreLoadedFromTheList()
     QVERIFY(!wasOpen);
 }
 
-void TestControlsCombos::coloursShowTheirSwatches()
-{
-    Host host;
-    auto* layer = host.drawing->addLayer(L"Walls");
-    layer->setColor(OdCmColor::fromRGB(200, 100, 50));
-    const auto model = host.colours(true);
-    model->setByLayer(layer->objectId());
-    model->setCurrentIndex(0);
-    ShownCombo combo("ColorCombo", *model);
-    QVERIFY(combo.shown().isReady());
-    QTRY_COMPARE(combo.pictureColor(), QColor(200, 100, 50));
-    layer->setColor(OdCmColor::fromRGB(20, 100, 50));
-    model->setByLayer(layer->objectId());
-    QTRY_COMPARE(combo.pictureColor(), QColor(20, 100, 50));
-    combo.open();
-    QTRY_VERIFY(combo.rowItem(9));
-    QTRY_COMPARE(combo.pictureColor(2), QColor(Qt::red));
-    QCOMPARE(combo.rowName(9), QStringLiteral("*Varies*"));
-    combo.clickRow(9);
-    QVERIFY(combo.isOpen());
-    QTest::mouseMove(combo.list(), combo.centreOf(combo.rowItem(5)));
-    QTRY_COMPARE(combo.highlighted(), 5);
-    QTest::mouseMove(combo.list(), combo.centreOf(combo.rowItem(9)));
-    combo.clickRow(3);
-    QCOMPARE(combo.name(), QStringLiteral("Yellow"));
-    QTRY_COMPARE(combo.pictureColor(), QColor(Qt::yellow));
-}
-
-void TestControlsCombos::theLayerMayBeShownAsBlack()
-{
-    Host host;
-    auto* layer = host.drawing->addLayer(L"Walls");
-    layer->setColor(OdCmColor::fromRGB(200, 100, 50));
-    const auto black = host.colours(false, 4);
-    black->setByLayer(layer->objectId());
-    black->setCurrentIndex(7);
-    ShownCombo blackCombo("ColorCombo", *black);
-    QVERIFY(blackCombo.shown().isReady());
-    QCOMPARE(blackCombo.name(), QStringLiteral("ByLayer"));
-    QTRY_COMPARE(blackCombo.pictureColor(), QColor(Qt::black));
-}
-
-void TestControlsCombos::lineTypesShowTheirPreviews()
-{
-    Host host;
-    const auto model = host.lineTypes();
-    model->setCurrentLineType(model->lineTypeId(2).value());
-    ShownCombo combo("LineTypeCombo", *model);
-    QVERIFY(combo.shown().isReady());
-    QTRY_COMPARE(combo.pictureColor(), QColor(255, 0, 255));
-    // Its ground is the theme's.
-    host.ground = wxColour(255, 255, 0);
-    QMetaObject::invokeMethod(combo.shown().page(), "setTheme", Q_ARG(int, 1));
-    QTRY_COMPARE(combo.pictureColor(), QColor(255, 255, 0));
-    host.ground = wxColour(255, 0, 255);
-    QMetaObject::invokeMethod(combo.shown().page(), "setTheme", Q_ARG(int, 0));
-    QTRY_COMPARE(combo.pictureColor(), QColor(255, 0, 255));
-    // Where the varies row is current, it has no picture, and it can't be chosen.
-    model->setIsVaries(true);
-    model->refresh(false, model->lineTypeId(2).value());
-    QCOMPARE(combo.name(), QStringLiteral("*Varies*"));
-    QVERIFY(combo.pictureColor() != QColor(255, 0, 255));
-    combo.open();
-    QTRY_VERIFY(combo.rowItem(5));
-    QCOMPARE(combo.rowName(5), QStringLiteral("Load..."));
-    QTRY_COMPARE(combo.pictureColor(3), QColor(255, 0, 255));
-    combo.clickRow(4);
-    QVERIFY(combo.isOpen());
-    combo.clickRow(3);
-    QCOMPARE(combo.name(), QStringLiteral("Dashed"));
-}
-
-void TestControlsCombos::lineWeightsFollowTheirUnits()
-{
-    Host host;
-    const auto model = host.lineWeights();
-    model->setCurrentIndex(5);
-    ShownCombo combo("LineWeightCombo", *model);
-    QVERIFY(combo.shown().isReady());
-    const auto strokeHeight = [](const QQuickItem* item) {
-        return item->findChild<QQuickItem*>(QStringLiteral("stroke"))->height();
-    };
-    QCOMPARE(combo.name(), QStringLiteral("100 mm"));
-    QCOMPARE(strokeHeight(combo.box()), 14.0);
-    host.unit = QStringLiteral("inch");
-    combo.open();
-    QTRY_VERIFY(combo.rowItem(4));
-    QCOMPARE(combo.rowName(4), QStringLiteral("75 inch"));
-    QCOMPARE(strokeHeight(combo.rowItem(3)), 7.0);
-    QCOMPARE(strokeHeight(combo.rowItem(1)), 1.0);
-    QCOMPARE(combo.name(), QStringLiteral("100 inch"));
-    // And while the list is open.
-    host.unit = QStringLiteral("ft");
-    Q_EMIT model->dataChanged(model->index(0), model->index(5));
-    QTRY_COMPARE(combo.rowName(4), QStringLiteral("75 ft"));
-    QCOMPARE(combo.name(), QStringLiteral("100 ft"));
-    combo.clickRow(2);
-    QCOMPARE(combo.name(), QStringLiteral("25 ft"));
-    model->setIsVaries(true);
-    QCOMPARE(combo.name(), QStringLiteral("*Varies*"));
-    combo.turnWheel(-1);
-    QCOMPARE(combo.row(), 6);
-    model->setIsVaries(false);
-    QCOMPARE(combo.name(), QStringLiteral("ByLayer"));
-}
-
-void TestControlsCombos::anArrowHeadWithoutAnObjectIsShownByThePage()
-{
-    Host host;
-    const auto model = host.arrowHeads(true);
-    ShownCombo combo("ArrowHeadCombo", *model, "onChosen: index => model.objectName = index");
-    QVERIFY(combo.shown().isReady());
-    QTRY_COMPARE(combo.pictureColor(), QColor(Qt::red));
-    model->setCurrentIndex(2);
-    QCOMPARE(combo.name(), QString());
-    QVERIFY(combo.pictureColor() != QColor(Qt::red));
-    combo.box()->setProperty("extraName", QStringLiteral("Mine"));
-    combo.box()->setProperty("extraImage", Host::picture(Qt::blue));
-    QCOMPARE(combo.name(), QStringLiteral("Mine"));
-    QTRY_COMPARE(combo.pictureColor(), QColor(Qt::blue));
-    combo.open();
-    QTRY_VERIFY(combo.rowItem(3));
-    QTRY_COMPARE(combo.pictureColor(2), QColor(Qt::blue));
-    QCOMPARE(combo.rowName(3), QStringLiteral("Select..."));
-    host.chosenArrowHead = {QStringLiteral("_DOT"), {}, {}};
-    combo.clickRow(3);
-    QTRY_COMPARE(combo.name(), QStringLiteral("Dot"));
-    QCOMPARE(model->objectName(), QString());
-    combo.turnWheel(-1);
-    QCOMPARE(model->objectName(), QStringLiteral("2"));
-}
-
 void TestControlsCombos::theListFitsTheScreenAndScrolls()
 {
-    Host host;
+    ComboHost host;
     host.weights = 100;
     const auto model = host.lineWeights();
     model->setCurrentIndex(95);
@@ -531,7 +233,7 @@ void TestControlsCombos::theListClosesByWhicheverRoad_data()
 void TestControlsCombos::theListClosesByWhicheverRoad()
 {
     QFETCH(const int, road);
-    Host host;
+    ComboHost host;
     auto model = host.lineTypes();
     ShownCombo combo("LineTypeCombo", *model);
     QVERIFY(combo.shown().isReady());
@@ -572,13 +274,13 @@ void TestControlsCombos::theListClosesByWhicheverRoad()
 
 void TestControlsCombos::theEngineLeavesTheRowsToTheirModel()
 {
-    Host host;
+    ComboHost host;
     const auto colours = host.colours();
     const auto lineTypes = host.lineTypes();
     const auto weights = host.lineWeights();
     const auto arrowHeads = host.arrowHeads();
     QList<QPointer<QObject>> rows;
-    PageEngine engine;
+    velmtest::PageEngine engine;
     const std::unique_ptr<QObject> page(engine.load(
         "QtObject { property var models; function read(): int { let count = 0; for (const model of models)\n"
         "  for (let row = 0; row < model.rowCount(); ++row) if (model.data(model.index(row, 0), 0)) ++count;\n"
@@ -602,7 +304,7 @@ void TestControlsCombos::theEngineLeavesTheRowsToTheirModel()
 void TestControlsCombos::aTipComesInAWindowOfItsOwn()
 {
     Settings::instance()->setTooltipDelay(1);
-    Host host;
+    ComboHost host;
     const auto model = host.colours();
     ShownCombo combo("ColorCombo", *model);
     QVERIFY(combo.shown().isReady());
