@@ -2,6 +2,9 @@
 
 #include "od/oddbentity.h"
 
+#include <optional>
+#include <vector>
+
 /// Base of what measures and annotates; how the kinds differ is of no interest here.
 class PLATFORM_EXPORT OdDbDimension : public OdDbEntity
 {};
@@ -37,8 +40,15 @@ class PLATFORM_EXPORT OdDb3PointAngularDimension : public OdDbDimension
 class PLATFORM_EXPORT OdDbOrdinateDimension : public OdDbDimension
 {};
 
+/// A line to what a text speaks of, with an arrowhead at its first point.
 class PLATFORM_EXPORT OdDbLeader : public OdDbEntity
-{};
+{
+public:
+    std::vector<OdGePoint3d> vertices;
+    bool hasArrowHead = true;
+    OdDbObjectId dimensionStyle;
+    std::optional<OdString> arrowhead; ///< its own, by internal name; otherwise the style's
+};
 
 /// A frame of tolerances.
 class PLATFORM_EXPORT OdDbFcf : public OdDbEntity

@@ -94,9 +94,9 @@ public:
     /// Decimal places of lengths.
     int dimdec() const { return m_decimals; }
     void setDimdec(int decimals) { m_decimals = decimals; }
-    /// The arrowhead by its internal name, as in "_DOT"; empty for the closed, filled one.
-    const OdString& dimblk() const { return m_arrowhead; }
-    void setDimblk(const OdString& name) { m_arrowhead = name; }
+    /// The arrowhead of leaders by its internal name, as in "_DOT", or a block's; empty for the closed, filled one.
+    const OdString& dimldrblk() const { return m_leaderArrowhead; }
+    void setDimldrblk(const OdString& name) { m_leaderArrowhead = name; }
     OdDbObjectId dimtxsty() const { return m_textStyle; }
     void setDimtxsty(OdDbObjectId textStyle) { m_textStyle = textStyle; }
 
@@ -105,7 +105,7 @@ private:
     double m_arrowSize = 0.18;
     double m_scale = 1.0;
     int m_decimals = 4;
-    OdString m_arrowhead;
+    OdString m_leaderArrowhead;
     OdDbObjectId m_textStyle;
 };
 

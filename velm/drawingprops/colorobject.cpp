@@ -5,7 +5,7 @@ ColorObject::ColorObject(Type type, int colorIndex, QColor color, QString name, 
     : m_colorIndex(colorIndex), m_color(color), m_name(std::move(name)), m_drawDiagonal(drawDiagonal), m_type(type)
 {}
 
-QString ColorObject::typeText() const
+QString ColorObject::getType() const
 {
     switch (m_type) {
     case Type::Custom:

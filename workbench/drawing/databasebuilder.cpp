@@ -227,16 +227,18 @@ void DatabaseBuilder::addKnot(const DL_KnotData& data)
     m_spline->knots.push_back(data.k);
 }
 
-void DatabaseBuilder::addLeader(const DL_LeaderData&)
+void DatabaseBuilder::addLeader(const DL_LeaderData& data)
 {
-    m_polyline = std::make_unique<OdDbPolyline>();
-    m_isMirrored = false;
-    applyAttributes(*m_polyline);
+    const OdDbDimStyleTableRecord* style = m_database->findDimStyle(text(m_leaderStyle));
+    m_leader = std::make_unique<OdDbLeader>();
+    m_leader->hasArrowHead = data.arrowHeadFlag != 0;
+    m_leader->dimensionStyle = style ? style->objectId() : m_database->getDIMSTYLE();
+    applyAttributes(*m_leader);
 }
 
 void DatabaseBuilder::addLeaderVertex(const DL_LeaderVertexData& data)
 {
-    m_polyline->vertices.push_back({{data.x, data.y, data.z}, 0.0});
+    m_leader->vertices.push_back({data.x, data.y, data.z});
 }
 
 void DatabaseBuilder::endEntity()
@@ -251,6 +253,9 @@ void DatabaseBuilder::endEntity()
     if (m_polyline && !m_polyline->vertices.empty())
         append(std::move(m_polyline));
     m_polyline.reset();
+    if (m_leader && !m_leader->vertices.empty())
+        append(std::move(m_leader));
+    m_leader.reset();
 }
 
 void DatabaseBuilder::addInsert(const DL_InsertData& data)

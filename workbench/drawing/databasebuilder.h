@@ -2,6 +2,7 @@
 
 #include "drawing/curves.h"
 #include "od/oddbdatabase.h"
+#include "od/oddbdimension.h"
 
 #include <dxflib/dl_creationadapter.h>
 
@@ -25,6 +26,8 @@ public:
 
     std::wstring text(std::string_view value) const;
     OdDbDatabase& database() { return *m_database; }
+    /// The dimension style of the leader that comes next, which dxflib leaves out.
+    void setLeaderStyle(std::string_view name) { m_leaderStyle = name; }
     const std::map<std::string, int>& skipped() const { return m_skipped; }
     int entityCount() const { return m_entityCount; }
 
@@ -76,9 +79,11 @@ private:
     const bool m_isUtf8;
     std::map<std::string, int> m_skipped;
     int m_entityCount = 0;
-    OdDbBlockTableRecord* m_block = nullptr;                             // not owned; null outside of block definitions
-    OdArray<double> m_dashes;                                            // of the linetype that comes next
-    std::unique_ptr<OdDbPolyline> m_polyline;                            // until all of its vertices came
+    OdDbBlockTableRecord* m_block = nullptr;  // not owned; null outside of block definitions
+    OdArray<double> m_dashes;                 // of the linetype that comes next
+    std::unique_ptr<OdDbPolyline> m_polyline; // until all of its vertices came
+    std::unique_ptr<OdDbLeader> m_leader;     // until all of its vertices came
+    std::string m_leaderStyle;
     bool m_isMirrored = false;                                           // the polyline
     std::unique_ptr<Spline> m_spline;                                    // until all of its points came
     std::string m_paragraphs;                                            // of the paragraph text that comes next

@@ -179,6 +179,8 @@ std::size_t DrawingPainter::paint(const Tessellation& tessellation)
             paintMark(tessellation.points[piece.first]);
         else
             paintChain(tessellation, piece);
+        if (piece.isFilled)
+            paintInside(tessellation, piece, colour);
     }
     flush();
     return drawn;
@@ -212,6 +214,8 @@ void DrawingPainter::paintHighlight(const Tessellation& tessellation, const std:
                 paintMark(tessellation.points[piece.first]);
             else
                 paintChain(tessellation, piece);
+            if (piece.isFilled && !isGlow)
+                paintInside(tessellation, piece, colour);
         }
     flush();
 }
@@ -255,6 +259,21 @@ void DrawingPainter::paintChain(const Tessellation& tessellation, const Piece& p
             addSegment(from, to);
         from = to;
     }
+}
+
+void DrawingPainter::paintInside(const Tessellation& tessellation, const Piece& piece, const wxColour& colour)
+{
+    wxGraphicsPath path = m_context.CreatePath();
+    for (std::uint32_t index = 0; index < piece.count; ++index) {
+        const Tessellation::Point& point = tessellation.points[piece.first + index];
+        const wxPoint2DDouble place = m_view.toScreen(point.x, point.y);
+        if (index == 0)
+            path.MoveToPoint(place);
+        else
+            path.AddLineToPoint(place);
+    }
+    m_context.SetBrush(wxBrush(colour));
+    m_context.FillPath(path);
 }
 
 void DrawingPainter::addSegment(wxPoint2DDouble from, wxPoint2DDouble to)

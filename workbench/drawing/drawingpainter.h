@@ -48,6 +48,7 @@ private:
     struct Stroke;
 
     void paintChain(const Tessellation& tessellation, const Piece& piece);
+    void paintInside(const Tessellation& tessellation, const Piece& piece, const wxColour& colour);
     void paintMark(const Tessellation::Point& point);
     void paintText(const PlacedText& text, const wxColour& colour);
     void addSegment(wxPoint2DDouble from, wxPoint2DDouble to);

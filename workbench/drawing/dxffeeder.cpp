@@ -105,6 +105,8 @@ void DxfFeeder::feedEntity(const Range& range, std::string_view type)
         ++m_skipped[std::string(type)];
         feedGroup(0, "SKIPPED");
     } else {
+        if (type == "LEADER")
+            m_builder.setLeaderStyle(valueOf(groupsOf(range), 3));
         feedGroup(0, type);
         feedCounts(range, type);
         bool hasPoint = false;

@@ -58,6 +58,8 @@ void DxfRecords::finish()
         const OdDbTextStyleTableRecord* textStyle = database.findTextStyle(m_textStyles[handle]);
         style->setDimtxsty((textStyle ? textStyle : database.findTextStyle(L"Standard"))->objectId());
     }
+    for (const auto& [style, handle] : m_leaderArrowheads)
+        style->setDimldrblk(m_blocks[handle]);
 }
 
 void DxfRecords::noteName(Groups record, Names& names) const
@@ -100,6 +102,7 @@ void DxfRecords::noteDimStyle(Groups record)
             style->setDimdec(static_cast<int>(std::clamp(number(value), 0.0, 8.0)));
     }
     m_dimTextStyles.emplace_back(style, valueOf(record, 340));
+    m_leaderArrowheads.emplace_back(style, valueOf(record, 341));
 }
 
 void DxfRecords::noteDictionary(Groups record)

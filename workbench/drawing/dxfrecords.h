@@ -50,7 +50,9 @@ private:
     Names m_textStyles;
     std::vector<Layer> m_layers;
     std::vector<std::pair<std::wstring, std::wstring>> m_layouts; // their names and those of their blocks
-    std::vector<std::pair<OdDbDimStyleTableRecord*, std::string_view>> m_dimTextStyles; // not owned; the handles
+    // Styles, not owned, and the handles of what they use, which may come later.
+    std::vector<std::pair<OdDbDimStyleTableRecord*, std::string_view>> m_dimTextStyles;
+    std::vector<std::pair<OdDbDimStyleTableRecord*, std::string_view>> m_leaderArrowheads;
 };
 
 } // namespace workbench

@@ -1,5 +1,7 @@
 #include "drawing/entitygeometry.h"
 
+#include "od/oddbdimension.h"
+
 #include <cmath>
 #include <numbers>
 
@@ -33,6 +35,14 @@ EntityGeometry geometryOf(const OdDbPolyline& polyline)
     return result;
 }
 
+EntityGeometry geometryOf(const OdDbLeader& leader)
+{
+    double length = 0.0;
+    for (std::size_t at = 1; at < leader.vertices.size(); ++at)
+        length += (leader.vertices[at] - leader.vertices[at - 1]).length();
+    return {length, {}, {}, leader.vertices.empty() ? OdGePoint3d() : leader.vertices.front()};
+}
+
 OdGePoint3d pointAt(const OdDbArc& arc, double angle)
 {
     return {arc.center.x + arc.radius * std::cos(angle), arc.center.y + arc.radius * std::sin(angle), arc.center.z};
@@ -53,6 +63,8 @@ EntityGeometry entityGeometry(const OdDbEntity& entity)
         return {(line->endPoint - line->startPoint).length(), {}, {}, line->startPoint};
     if (const auto* polyline = dynamic_cast<const OdDbPolyline*>(&entity))
         return geometryOf(*polyline);
+    if (const auto* leader = dynamic_cast<const OdDbLeader*>(&entity))
+        return geometryOf(*leader);
     if (const auto* circle = dynamic_cast<const OdDbCircle*>(&entity))
         return {2 * pi * circle->radius, circle->radius, pi * circle->radius * circle->radius, circle->center};
     if (const auto* arc = dynamic_cast<const OdDbArc*>(&entity))

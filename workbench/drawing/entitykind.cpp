@@ -1,5 +1,7 @@
 #include "drawing/entitykind.h"
 
+#include "od/oddbdimension.h"
+
 #include <wx/translation.h>
 
 namespace workbench {
@@ -9,6 +11,8 @@ wxString entityKind(const OdDbEntity& entity)
         return _("Line");
     if (dynamic_cast<const OdDbPolyline*>(&entity))
         return _("Polyline");
+    if (dynamic_cast<const OdDbLeader*>(&entity))
+        return _("Leader");
     if (dynamic_cast<const OdDbCircle*>(&entity))
         return _("Circle");
     if (dynamic_cast<const OdDbArc*>(&entity))

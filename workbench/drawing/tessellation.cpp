@@ -1,6 +1,8 @@
 #include "drawing/tessellation.h"
 
+#include "drawing/arrowheads.h"
 #include "drawing/curves.h"
+#include "od/oddbdimension.h"
 
 #include <algorithm>
 #include <cmath>
@@ -63,7 +65,8 @@ private:
     void addEntity(const OdDbEntity& entity, const Surroundings& around);
     void addReference(const OdDbBlockReference& reference, const Surroundings& own);
     void addText(const OdDbText& text, const Surroundings& own);
-    void addChain(const std::vector<OdGePoint3d>& chain, const Surroundings& own);
+    void addLeader(const OdDbLeader& leader, const Surroundings& own);
+    void addChain(const std::vector<OdGePoint3d>& chain, const Surroundings& own, bool isFilled = false);
     void addPiece(Piece piece, const Surroundings& own);
     int dashPattern(const OdDbLinetypeTableRecord* linetype);
 
@@ -144,6 +147,8 @@ void Tessellator::addEntity(const OdDbEntity& entity, const Surroundings& around
         if (polyline->closed)
             appendBulge(chain, vertices.back().point, vertices.front().point, vertices.back().bulge);
         addChain(chain, own);
+    } else if (const auto* leader = dynamic_cast<const OdDbLeader*>(&entity)) {
+        addLeader(*leader, own);
     } else if (const auto* circle = dynamic_cast<const OdDbCircle*>(&entity)) {
         appendEllipticArc(chain, circle->center, {circle->radius, 0, 0}, {0, circle->radius, 0}, 0.0, fullTurn);
         addChain(chain, own);
@@ -180,6 +185,36 @@ void Tessellator::addReference(const OdDbBlockReference& reference, const Surrou
                     addEntity(*entity, inside);
         }
     m_openBlocks.pop_back();
+}
+
+void Tessellator::addLeader(const OdDbLeader& leader, const Surroundings& own)
+{
+    std::vector<OdGePoint3d> chain = leader.vertices;
+    if (chain.empty())
+        return;
+    const auto* style = leader.dimensionStyle.open<OdDbDimStyleTableRecord>();
+    const OdString name = leader.arrowhead.value_or(style ? style->dimldrblk() : OdString());
+    const double size = style ? style->dimasz() * (style->dimscale() > 0.0 ? style->dimscale() : 1.0) : 1.0;
+    const OdGeVector3d way = chain.size() > 1 ? chain[1] - chain[0] : OdGeVector3d();
+    // An arrowhead that takes more than half of its line is left out.
+    if (leader.hasArrowHead && size > 0.0 && way.length() >= 2.0 * size) {
+        OdDbBlockReference place;
+        place.position = chain[0];
+        place.rotation = std::atan2(way.y, way.x);
+        place.scaleFactors = {size, size, size};
+        Surroundings head = own;
+        head.linetype = nullptr;
+        if (const Arrowhead* arrowhead = findArrowhead(name)) {
+            chain[0] = chain[0] + way * (size * arrowhead->lineFrom / way.length());
+            head.transform = own.transform * place.blockTransform();
+            for (const std::vector<OdGePoint3d>& outline : arrowhead->chains)
+                addChain(outline, head, arrowhead->isFilled);
+        } else if (const OdDbBlockTableRecord* block = m_database.findBlock(name)) {
+            place.blockTableRecord = block->objectId();
+            addReference(place, head);
+        }
+    }
+    addChain(chain, own);
 }
 
 void Tessellator::addText(const OdDbText& text, const Surroundings& own)
@@ -220,9 +255,10 @@ void Tessellator::addText(const OdDbText& text, const Surroundings& own)
     addPiece(piece, own);
 }
 
-void Tessellator::addChain(const std::vector<OdGePoint3d>& chain, const Surroundings& own)
+void Tessellator::addChain(const std::vector<OdGePoint3d>& chain, const Surroundings& own, bool isFilled)
 {
     Piece piece;
+    piece.isFilled = isFilled;
     piece.first = static_cast<std::uint32_t>(m_result.points.size());
     piece.count = static_cast<std::uint32_t>(chain.size());
     piece.dashes = dashPattern(own.linetype);

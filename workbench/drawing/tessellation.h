@@ -46,6 +46,7 @@ struct Piece
     std::uint32_t count = 0;
     int text = -1;   ///< its text's index, or -1
     int dashes = -1; ///< its dash pattern's index, or -1 for a continuous line
+    bool isFilled = false;
     int lineWeight = OdDb::kLnWtByLwDefault;
     OdCmColor color; ///< an index or an RGB colour
     Box box;

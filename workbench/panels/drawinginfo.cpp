@@ -1,6 +1,7 @@
 #include "panels/drawinginfo.h"
 
 #include "od/oddbdatabase.h"
+#include "od/oddbdimension.h"
 #include "velm/bridge/conversions.h"
 
 #include <QDir>
@@ -29,6 +30,8 @@ QString kindOf(const OdDbEntity* entity)
         return DrawingInfo::tr("Lines");
     if (is<OdDbPolyline>(entity))
         return DrawingInfo::tr("Polylines");
+    if (is<OdDbLeader>(entity))
+        return DrawingInfo::tr("Leaders");
     if (is<OdDbCircle>(entity))
         return DrawingInfo::tr("Circles");
     if (is<OdDbArc>(entity))

@@ -3,6 +3,7 @@
 #include "drawing/entitygeometry.h"
 #include "drawing/entitykind.h"
 #include "od/oddbdatabase.h"
+#include "od/oddbdimension.h"
 #include "velm/bridge/conversions.h"
 
 #include <QCoreApplication>
@@ -47,6 +48,9 @@ std::vector<EntityMeasure> entityMeasures(const OdDbEntity& entity)
         return {{Texts::tr("Length"), length(entity, *entityGeometry(*polyline).length)},
                 {Texts::tr("Points"), QString::number(polyline->vertices.size())},
                 {Texts::tr("Closed"), polyline->closed ? Texts::tr("Yes") : Texts::tr("No")}};
+    if (const auto* leader = dynamic_cast<const OdDbLeader*>(&entity))
+        return {{Texts::tr("Length"), length(entity, *entityGeometry(*leader).length)},
+                {Texts::tr("Points"), QString::number(leader->vertices.size())}};
     if (const auto* circle = dynamic_cast<const OdDbCircle*>(&entity))
         return {{Texts::tr("Radius"), length(entity, circle->radius)},
                 {Texts::tr("Centre"), place(entity, circle->center)}};
