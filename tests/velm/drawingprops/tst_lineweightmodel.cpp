@@ -8,7 +8,6 @@
 #include "support/signallog.h"
 #include "velm/bridge/conversions.h"
 
-#include <QJSEngine>
 #include <QTest>
 
 #include <limits>
@@ -199,20 +198,6 @@ private Q_SLOTS:
         model.setIsVaries(true);
         model.setIsVaries(false);
         QCOMPARE(text(model), "hairline:0");
-    }
-
-    void aScriptThatReadsARowDoesntOwnIt()
-    {
-        const Host host;
-        LineWeightModel model(host, {}, {});
-        QPointer<LineWeightObject> row = rowObject(model, 1);
-        QJSEngine engine;
-        QJSEngine::setObjectOwnership(&model, QJSEngine::CppOwnership);
-        engine.globalObject().setProperty("model", engine.newQObject(&model));
-        QCOMPARE(engine.evaluate("model.data(model.index(1, 0), 0).lineWeightName").toString(), "5mm");
-        engine.collectGarbage();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QVERIFY(row);
     }
 
     void viewsStayRightUnderRandomChange()
