@@ -78,6 +78,8 @@ MainFrame::MainFrame(VelmSession& session, HostServices& services, PageGroup& pa
         if (event.GetKeyCode() == WXK_ESCAPE && event.GetModifiers() == wxMOD_NONE) {
             m_commandLine->processEscape();
             m_commandLine->input()->SetFocus();
+        } else if (event.GetKeyCode() == WXK_TAB && event.ControlDown() && !event.AltDown()) {
+            m_documents.next(!event.ShiftDown()); // no menu of this toolkit takes such a key
         } else {
             event.Skip();
         }
