@@ -23,7 +23,7 @@ FocusScope {
         objectName: "drawingTabs"
         anchors.fill: parent
         focus: true
-        activeFocusOnTab: count > 0
+        activeFocusOnTab: true
         orientation: ListView.Horizontal
         boundsBehavior: Flickable.StopAtBounds
         clip: true
