@@ -5,7 +5,7 @@
 namespace velm {
 ArrowHeadObject::ArrowHeadObject(const ArrowHeadRecord& record, QSize size) : m_record(record), m_size(size)
 {
-    // Pages read rows by calls, which leave what they give to the engine.
+    // A script that calls data() would own the row otherwise.
     QJSEngine::setObjectOwnership(this, QJSEngine::CppOwnership);
 }
 } // namespace velm

@@ -5,6 +5,8 @@
 #include "velm/bridge/iguicontroller.h"
 #include "velm/dialogs/idialogfactory.h"
 
+#include <QCoreApplication>
+
 #include <wx/gdicmn.h>
 
 #include <algorithm>
@@ -264,7 +266,7 @@ bool ColorModel::isVaries() const
 
 QString ColorModel::tooltip() const
 {
-    return tr("Color Control");
+    return QCoreApplication::translate("ColorModel", "Color Control");
 }
 
 QSize ColorModel::size() const

@@ -6,7 +6,7 @@ namespace velm {
 ColorObject::ColorObject(Type type, int colorIndex, QColor color, QString name, bool drawDiagonal)
     : m_colorIndex(colorIndex), m_color(color), m_name(std::move(name)), m_drawDiagonal(drawDiagonal), m_type(type)
 {
-    // Pages read rows by calls, which leave what they give to the engine.
+    // A script that calls data() would own the row otherwise.
     QJSEngine::setObjectOwnership(this, QJSEngine::CppOwnership);
 }
 

@@ -8,7 +8,7 @@ namespace velm {
 LineTypeObject::LineTypeObject(QString name, const OdDbObjectId& id, const IGuiController& gui)
     : m_name(std::move(name)), m_id(id), m_gui(gui)
 {
-    // Pages read rows by calls, which leave what they give to the engine.
+    // A script that calls data() would own the row otherwise.
     QJSEngine::setObjectOwnership(this, QJSEngine::CppOwnership);
 }
 

@@ -6,7 +6,7 @@ namespace velm {
 LineWeightObject::LineWeightObject(QString name, double factor, int lineWeight)
     : m_name(std::move(name)), m_factor(factor), m_lineWeight(lineWeight)
 {
-    // Pages read rows by calls, which leave what they give to the engine.
+    // A script that calls data() would own the row otherwise.
     QJSEngine::setObjectOwnership(this, QJSEngine::CppOwnership);
 }
 

@@ -1,12 +1,11 @@
 #include "host/dialogfactory.h"
 
+#include "host/colordialogcontroller.h"
 #include "host/messagedialog.h"
 #include "host/pagedialog.h"
 #include "host/pagegroup.h"
 #include "units/calculatorcontroller.h"
 #include "velm/bridge/externalfunctions.h"
-
-#include <wx/colordlg.h>
 
 #include <limits>
 
@@ -30,17 +29,11 @@ std::pair<int, bool> DialogFactory::message(OdString caption, OdString text, OdS
     return {id, dialog.isQuestionChecked()};
 }
 
-std::optional<OdCmColor> DialogFactory::colorDialog(wxWindow* parent, const OdCmColor* initial, unsigned)
+std::optional<OdCmColor> DialogFactory::colorDialog(wxWindow* parent, const OdCmColor* initial, unsigned flags)
 {
-    wxColourData data;
-    data.SetChooseFull(true);
-    if (initial)
-        data.SetColour(wxColour(initial->red(), initial->green(), initial->blue()));
-    wxColourDialog dialog(parentFor(parent), &data);
-    if (dialog.ShowModal() != wxID_OK)
-        return {};
-    const wxColour colour = dialog.GetColourData().GetColour();
-    return OdCmColor::fromRGB(colour.Red(), colour.Green(), colour.Blue());
+    ColorDialogController controller(initial, flags);
+    HostDialog dialog(m_pages, velm::getUIFullUrl("Workbench/ColorDialog.qml"), &controller, parent, {});
+    return dialog.showModal() == wxID_OK ? controller.chosen() : std::nullopt;
 }
 
 bool DialogFactory::quickCalculator(wxWindow* parent, OdDbEvalVariantPtr& value, bool)
