@@ -40,6 +40,11 @@ void TestControlsComboPictures::coloursShowTheirSwatches()
     QVERIFY(combo.isOpen());
     QTest::mouseMove(combo.list(), combo.centreOf(combo.rowItem(5)));
     QTRY_COMPARE(combo.highlighted(), 5);
+    // A mouse that stays leaves the highlight to the keys.
+    combo.shown().press(Qt::Key_Down);
+    combo.list()->grabWindow();
+    QTest::mouseMove(combo.list(), combo.centreOf(combo.rowItem(5)));
+    QCOMPARE(combo.highlighted(), 6);
     QTest::mouseMove(combo.list(), combo.centreOf(combo.rowItem(9)));
     combo.clickRow(3);
     QCOMPARE(combo.name(), QStringLiteral("Yellow"));
