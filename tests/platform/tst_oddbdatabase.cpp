@@ -1,5 +1,6 @@
 #include <QTest>
 
+#include "od/odapdocument.h"
 #include "od/oddbdatabase.h"
 #include "ut/databaseutils.h"
 
@@ -17,6 +18,9 @@ private Q_SLOTS:
     void renamingGoesByTableAndDatabase();
     void erasedRecordsGoButTheirIdsStay();
     void layoutsOverBlocks();
+    void layerColorsGoByViewport();
+    void newEntitiesAreByLayer();
+    void aKeptDatabaseOutlivesItsDocument();
     void entitiesGoToTheirBlock();
     void aMillionEntities();
     void insertTransformsInOrder();
@@ -134,6 +138,49 @@ void tst_OdDbDatabase::layoutsOverBlocks()
     QCOMPARE(database.addLayout(L"LAYOUT2"), second);
     QCOMPARE(database.blocks().size(), 4u);
     QVERIFY(database.addBlock(L"Door")->getLayoutId().isNull());
+}
+
+void tst_OdDbDatabase::layerColorsGoByViewport()
+{
+    OdDbDatabase database;
+    QVERIFY(database.getTILEMODE());
+    OdDbLayout* sheet = database.getPaperSpaceId().open<OdDbBlockTableRecord>()->getLayoutId().open<OdDbLayout>();
+    QCOMPARE(sheet, database.layouts()[1]);
+    QVERIFY(sheet->activeViewportId().isNull());
+    const OdDbObjectId viewport = database.addViewport()->objectId();
+    const OdDbObjectId other = database.addViewport()->objectId();
+    QVERIFY(viewport != other && other.open<OdDbViewport>());
+    OdDbLayerTableRecord* layer = database.layers()[0];
+    const OdCmColor own = OdCmColor::fromRGB(1, 2, 3);
+    layer->setColor(own, viewport);
+    bool isOverride = false;
+    QVERIFY(layer->color(viewport, isOverride) == own && isOverride);
+    QVERIFY(layer->color(other, isOverride) == OdCmColor::fromIndex(7) && !isOverride);
+    QVERIFY(layer->color() == OdCmColor::fromIndex(7));
+}
+
+void tst_OdDbDatabase::newEntitiesAreByLayer()
+{
+    const OdDbDatabase database;
+    QVERIFY(database.getCECOLOR().isByLayer());
+    QCOMPARE(database.getCELTYPE(), database.findLinetype(L"ByLayer")->objectId());
+    QCOMPARE(database.getCELWEIGHT(), int(OdDb::kLnWtByLayer));
+    QCOMPARE(database.getDIMSTYLE().open<OdDbDimStyleTableRecord>(), database.findDimStyle(L"Standard"));
+}
+
+void tst_OdDbDatabase::aKeptDatabaseOutlivesItsDocument()
+{
+    auto document = std::make_unique<OdApDocument>(L"a.dxf", std::make_unique<OdDbDatabase>());
+    std::shared_ptr<OdDbDatabase> kept = OdDbDatabase::keep(document->database());
+    const OdDbObjectId layer = kept->currentLayer();
+    document.reset();
+    QVERIFY(layer.open<OdDbLayerTableRecord>());
+    const std::weak_ptr<OdDbDatabase> watched = kept;
+    kept.reset();
+    QVERIFY(watched.expired());
+    OdDbDatabase local; // owned by no pointer: must not be freed twice
+    QCOMPARE(OdDbDatabase::keep(&local).get(), &local);
+    QVERIFY(!OdDbDatabase::keep(nullptr));
 }
 
 void tst_OdDbDatabase::entitiesGoToTheirBlock()

@@ -88,12 +88,49 @@ OdCmColor& FakeGuiController::getArrayColor(int index, int flags)
 velm::ColorDescription FakeGuiController::describeColor(const OdCmColor& color, wxColour byLayerColor,
                                                         bool layerOverride, int flags)
 {
-    return m_colors->describeColor(color, byLayerColor, layerOverride, flags);
+    return describe ? describe(color, byLayerColor, layerOverride, flags)
+                    : m_colors->describeColor(color, byLayerColor, layerOverride, flags);
 }
 
 int FakeGuiController::colorComboFlagsToDialog(int comboFlags, bool varies)
 {
     return m_colors->colorComboFlagsToDialog(comboFlags, varies);
+}
+
+OdString FakeGuiController::linetypeLocalName(const OdString& storedName) const
+{
+    return localName ? localName(storedName) : storedName;
+}
+
+bool FakeGuiController::loadLineTypes(OdDbDatabase* database, bool noSecondOption, OdDbObjectId& id, bool noFirstOption,
+                                      velm::LoadedLineTypes& loaded)
+{
+    return lineTypes && lineTypes(database, noSecondOption, id, noFirstOption, loaded);
+}
+
+bool FakeGuiController::drawLineTypeBitmap(int width, int height, wxBitmap& bitmap, OdDbObjectId lineType,
+                                           OdDbObjectId second, const wxColour& background) const
+{
+    return drawLineType && drawLineType(width, height, bitmap, lineType, second, background);
+}
+
+int FakeGuiController::lineWeightCount() const
+{
+    return lineWeights ? static_cast<int>(lineWeights().size()) : 0;
+}
+
+int FakeGuiController::lineWeightAt(int index) const
+{
+    return lineWeights().at(static_cast<std::size_t>(index)).first;
+}
+
+OdString FakeGuiController::lineWeightName(int lineWeight) const
+{
+    if (lineWeights)
+        for (const auto& [weight, name] : lineWeights())
+            if (weight == lineWeight)
+                return name;
+    return {};
 }
 
 std::pair<int, bool> FakeDialogFactory::message(OdString caption, OdString text, OdString extraText,

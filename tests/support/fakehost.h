@@ -12,6 +12,8 @@
 #include <deque>
 #include <functional>
 #include <memory>
+#include <optional>
+#include <utility>
 #include <vector>
 
 namespace velm {
@@ -51,6 +53,19 @@ public:
     QStringList log;
     /// The steps of the dialogs to come; without any, createDialog() gives null.
     std::deque<std::vector<DialogStep>> dialogs;
+    // What the models of drawing properties ask for; an empty one does as createEmptyGuiController()'s.
+    std::function<velm::ColorDescription(const OdCmColor& color, wxColour byLayerColor, bool layerOverride, int flags)>
+        describe;
+    std::function<bool(OdDbDatabase* database, bool noSecondOption, OdDbObjectId& id, bool noFirstOption,
+                       velm::LoadedLineTypes& loaded)>
+        lineTypes;
+    std::function<bool(int width, int height, wxBitmap& bitmap, OdDbObjectId lineType, OdDbObjectId second,
+                       const wxColour& background)>
+        drawLineType;
+    /// The table of lineweights with their names.
+    std::function<std::vector<std::pair<int, OdString>>()> lineWeights;
+    /// A linetype's stored name is its local one unless this says otherwise.
+    std::function<OdString(const OdString& storedName)> localName;
 
     std::unique_ptr<velm::IHostDialog> createDialog(const QUrl& page, velm::BaseDialogController* controller,
                                                     wxWindow* parent, const velm::DialogOptions& options,
@@ -67,15 +82,14 @@ public:
                                          int flags) override;
     int colorComboFlagsToDialog(int comboFlags, bool varies) override;
 
-    OdString linetypeLocalName(const OdString&) const override { return {}; }
-    bool loadLineTypes(OdDbDatabase*, bool, OdDbObjectId&, bool, velm::LoadedLineTypes&) override { return false; }
-    bool drawLineTypeBitmap(int, int, wxBitmap&, OdDbObjectId, OdDbObjectId, const wxColour&) const override
-    {
-        return false;
-    }
-    int lineWeightCount() const override { return 0; }
-    int lineWeightAt(int) const override { return 0; }
-    OdString lineWeightName(int) const override { return {}; }
+    OdString linetypeLocalName(const OdString& storedName) const override;
+    bool loadLineTypes(OdDbDatabase* database, bool noSecondOption, OdDbObjectId& id, bool noFirstOption,
+                       velm::LoadedLineTypes& loaded) override;
+    bool drawLineTypeBitmap(int width, int height, wxBitmap& bitmap, OdDbObjectId lineType, OdDbObjectId second,
+                            const wxColour& background) const override;
+    int lineWeightCount() const override;
+    int lineWeightAt(int index) const override;
+    OdString lineWeightName(int lineWeight) const override;
 
     bool hostQuery1() override { return false; }
     void hostAction1() override {}

@@ -76,9 +76,9 @@ private Q_SLOTS:
         QCOMPARE(house.value(house.circle, M::LayerColumn), "Doors");
         QCOMPARE(house.value(house.circle, M::RadiusColumn, Qt::DisplayRole), "2.00");
         QCOMPARE(house.value(house.circle, M::LineWeightColumn, Qt::DisplayRole), "0.25 mm");
-        QCOMPARE(house.value(house.circle, M::ColorColumn), "By layer");
+        QCOMPARE(house.value(house.circle, M::ColorColumn), "ByLayer");
         QCOMPARE(house.value(house.circle, M::ColorColumn, Qt::DecorationRole), QColor(Qt::red));
-        QCOMPARE(house.value(house.text, M::ColorColumn), "1, 2, 3");
+        QCOMPARE(house.value(house.text, M::ColorColumn), "1,2,3");
         QCOMPARE(house.value(house.text, M::TextColumn), "Hall");
         QCOMPARE(house.value(house.wall, M::LengthColumn, Qt::DisplayRole), "5.00");
         // What an entity doesn't have is empty, and comes last.

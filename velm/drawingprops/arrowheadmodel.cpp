@@ -10,7 +10,7 @@ namespace {
 ArrowHeadObject* loadObject()
 {
     static const ArrowHeadRecord record{{}, QStringLiteral("Select..."), {}};
-    static ArrowHeadObject object(record, {});
+    static ArrowHeadObject object(record, QSize(0, 0));
     return &object;
 }
 } // namespace

@@ -5,6 +5,8 @@
 #include "velm/bridge/iguicontroller.h"
 #include "velm/dialogs/idialogfactory.h"
 
+#include <QCoreApplication>
+
 #include <wx/gdicmn.h>
 
 #include <algorithm>
@@ -45,7 +47,7 @@ struct ColorModel::Pimpl
 
     int count() const { return static_cast<int>(rows.size()); }
     bool isRow(int index) const { return index >= 0 && index < count(); }
-    bool isVaries() const { return count() >= 2 && rows[rows.size() - 2]->type() == Type::Varies; }
+    bool isVaries() const { return count() >= 2 && rows[rows.size() - 2]->getTypeAsEnum() == Type::Varies; }
 
     std::unique_ptr<ColorObject> standardRow(int arrayIndex) const
     {
@@ -174,7 +176,7 @@ void ColorModel::setCustomColor()
     if (!m_pimpl->customColor.isValid())
         return;
     for (int row = 0; row < m_pimpl->count(); ++row)
-        if (getColorObject(row)->type() == ColorObject::Type::Custom) {
+        if (getColorObject(row)->getTypeAsEnum() == ColorObject::Type::Custom) {
             m_pimpl->makeCurrent(row);
             return;
         }
@@ -264,7 +266,7 @@ bool ColorModel::isVaries() const
 
 QString ColorModel::tooltip() const
 {
-    return tr("Color Control");
+    return QCoreApplication::translate("ColorModel", "Color Control");
 }
 
 QSize ColorModel::size() const
@@ -304,7 +306,7 @@ void ColorModel::onClicked(int index)
     if (!m_pimpl->isRow(index))
         return;
     const int former = m_pimpl->currentIndex;
-    const bool opensDialog = getColorObject(index)->type() == ColorObject::Type::Load;
+    const bool opensDialog = getColorObject(index)->getTypeAsEnum() == ColorObject::Type::Load;
     m_pimpl->makeCurrent(index);
     if (!opensDialog) {
         if (index != former)

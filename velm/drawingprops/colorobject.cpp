@@ -1,11 +1,16 @@
 #include "velm/drawingprops/colorobject.h"
 
+#include <QJSEngine>
+
 namespace velm {
 ColorObject::ColorObject(Type type, int colorIndex, QColor color, QString name, bool drawDiagonal)
     : m_colorIndex(colorIndex), m_color(color), m_name(std::move(name)), m_drawDiagonal(drawDiagonal), m_type(type)
-{}
+{
+    // A script that calls data() would own the row otherwise.
+    QJSEngine::setObjectOwnership(this, QJSEngine::CppOwnership);
+}
 
-QString ColorObject::typeText() const
+QString ColorObject::getType() const
 {
     switch (m_type) {
     case Type::Custom:

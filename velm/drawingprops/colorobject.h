@@ -11,7 +11,7 @@ namespace velm {
 class VELM_EXPORT ColorObject : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(QString type READ typeText CONSTANT)
+    Q_PROPERTY(QString type READ getType CONSTANT)
     Q_PROPERTY(int colorIndex READ colorIndex CONSTANT)
     Q_PROPERTY(QColor color READ color CONSTANT)
     Q_PROPERTY(QString name READ name CONSTANT)
@@ -28,9 +28,9 @@ public:
     explicit ColorObject(Type type, int colorIndex = 0, QColor color = {}, QString name = {},
                          bool drawDiagonal = false);
 
-    Type type() const { return m_type; }
+    Type getTypeAsEnum() const { return m_type; }
     /// "custom", "varies", "load", or empty for a standard row.
-    QString typeText() const;
+    QString getType() const;
     /// The row's place in the shared array of colours; no colour number.
     int colorIndex() const { return m_colorIndex; }
     QColor color() const { return m_color; }

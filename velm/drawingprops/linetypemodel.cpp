@@ -107,10 +107,10 @@ bool LineTypeModel::setDatabase(bool inBatch, OdDbDatabase* database)
 
 bool LineTypeModel::refresh(bool inBatch, const OdDbObjectId& lineType)
 {
-    OdArray<OdDbObjectId> ids;
-    if (!m_database || !load(lineType, ids) || ids.isEmpty())
+    LoadedLineTypes loaded;
+    if (!m_database || !load(lineType, loaded) || loaded.ids.isEmpty())
         return false;
-    const int number = static_cast<int>(ids.size());
+    const int number = static_cast<int>(loaded.ids.size());
     if (m_isVaries ? number == m_variesRow : number == m_loadRow && lineType.isNull())
         return false;
     if (!inBatch)
@@ -191,12 +191,9 @@ void LineTypeModel::clear()
     m_currentIndex = m_variesRow = m_loadRow = m_propertiesRow = -1;
 }
 
-bool LineTypeModel::load(OdDbObjectId lineType, OdArray<OdDbObjectId>& ids) const
+bool LineTypeModel::load(OdDbObjectId lineType, LoadedLineTypes& loaded) const
 {
-    LoadedLineTypes loaded;
-    const bool done = m_gui.loadLineTypes(m_database.get(), !m_secondOption, lineType, !m_firstOption, loaded);
-    ids = loaded.ids;
-    return done;
+    return m_gui.loadLineTypes(m_database.get(), !m_secondOption, lineType, !m_firstOption, loaded);
 }
 
 void LineTypeModel::rebuild(const OdDbObjectId& lineType)
@@ -205,10 +202,10 @@ void LineTypeModel::rebuild(const OdDbObjectId& lineType)
     const OdDbObjectId former = m_isVaries ? OdDbObjectId() : lineTypeId(formerIndex).value_or(OdDbObjectId());
     clear();
     m_currentIndex = 0;
-    OdArray<OdDbObjectId> ids;
-    if (m_database && load(lineType, ids)) {
+    LoadedLineTypes loaded;
+    if (m_database && load(lineType, loaded)) {
         std::optional<int> formerRow;
-        for (const OdDbObjectId& id : ids) {
+        for (const OdDbObjectId& id : loaded.ids) {
             const auto* record = id.open<OdDbLinetypeTableRecord>();
             if (!record)
                 continue;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "od/odarray.h"
 #include "velm/drawingprops/ilinetypemodel.h"
 #include "velm/drawingprops/linetypeobject.h"
 
@@ -8,6 +7,7 @@
 
 namespace velm {
 class QtWindowParent;
+struct LoadedLineTypes;
 
 /// The model under a linetype combo. Without a database it has no rows.
 class VELM_EXPORT LineTypeModel : public ILineTypeModel
@@ -71,7 +71,7 @@ private:
     const LineTypeObject& row(int index) const { return *m_rows[static_cast<std::size_t>(index)]; }
     void addRow(const QString& name, const OdDbObjectId& id = {});
     void clear();
-    bool load(OdDbObjectId lineType, OdArray<OdDbObjectId>& ids) const;
+    bool load(OdDbObjectId lineType, LoadedLineTypes& loaded) const;
     void rebuild(const OdDbObjectId& lineType);
     /// True when the current row changed.
     bool makeCurrent(int index);

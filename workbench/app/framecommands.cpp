@@ -3,6 +3,7 @@
 #include "app/mainframe.h"
 #include "app/velmsession.h"
 #include "command/commandline.h"
+#include "panels/propertytexts.h"
 
 namespace workbench {
 void addFrameCommands(Commands& commands, MainFrame& frame)
@@ -30,6 +31,15 @@ void addFrameCommands(Commands& commands, MainFrame& frame)
     });
     commands.add("PAGE", _("Shows a page of QML in a tab: PAGE file, or PAGE alone to close it"),
                  [&frame](const wxString& file) { frame.tryPage(file); });
+    commands.add("LWUNITS", _("Writes lineweights in other units: LWUNITS MM or LWUNITS INCHES"),
+                 [&](const wxString& name) {
+                     if (name.IsSameAs("MM", false) || name.IsSameAs("INCHES", false)) {
+                         setLineWeightsInInches(name.IsSameAs("INCHES", false));
+                         frame.unitsChanged();
+                     } else {
+                         frame.commandLine().log(commands.help("LWUNITS"));
+                     }
+                 });
     commands.add("QUIT", _("Ends the program"), [&frame](const wxString&) { frame.Close(); });
     commands.add("HELP", _("Lists the commands"), [&](const wxString&) {
         for (const wxString& name : commands.names())

@@ -4,6 +4,7 @@
 #include "app/velmsession.h"
 #include "command/commandline.h"
 #include "drawing/drawingcanvas.h"
+#include "panels/propertytexts.h"
 #include "velm/bridge/externalfunctions.h"
 #include "velm/dialogs/idialogfactory.h"
 
@@ -133,6 +134,13 @@ std::vector<Action> frameActions(MainFrame& frame)
          command("LINETYPE"),
          {},
          hasDrawing},
+        {_("&Drawing"),
+         _("&Lineweights in inches"),
+         {},
+         _("Write lineweights in inches, or else in millimetres"),
+         [&frame] { frame.commandLine().processCommand(areLineWeightsInInches() ? "LWUNITS MM" : "LWUNITS INCHES"); },
+         areLineWeightsInInches,
+         {}},
         {_("&Layer"),
          _("&Rename..."),
          "F2",

@@ -12,7 +12,7 @@
 
 namespace workbench {
 namespace {
-constexpr int defaultLineWeight = 25;
+constexpr int lineWeightWithoutDrawing = 25;
 
 /// The documentation lies in the folder "docs" beside the program, a page a key.
 QString documentationFile(const QString& key)
@@ -57,7 +57,10 @@ velm::ExternalFunctions HostServices::functions()
     functions.dlgFactory = [this] { return &m_dialogs; };
     functions.docManager = [this] { return &m_documents; };
     functions.getUIFullUrl = [](const QString& page) { return velm::getQUrl(page, "Tandolin.UI", {}); };
-    functions.defaultLineWeight = [] { return defaultLineWeight; };
+    functions.defaultLineWeight = [this] {
+        OdApDocument* document = m_documents.curDocument();
+        return document ? document->database()->getLWDEFAULT() : lineWeightWithoutDrawing;
+    };
     functions.getUnitFormatter = [this](double value) { return formatterFor(value); };
     functions.openWebDoc = [this](const QString& key) {
         const QString file = documentationFile(key);

@@ -1,5 +1,6 @@
 #include "host/dialogfactory.h"
 
+#include "host/colordialogcontroller.h"
 #include "host/messagedialog.h"
 #include "host/pagedialog.h"
 #include "host/pagegroup.h"
@@ -9,7 +10,6 @@
 #include "velm/bridge/conversions.h"
 #include "velm/bridge/externalfunctions.h"
 
-#include <wx/colordlg.h>
 #include <wx/filedlg.h>
 
 #include <limits>
@@ -34,17 +34,11 @@ std::pair<int, bool> DialogFactory::message(OdString caption, OdString text, OdS
     return {id, dialog.isQuestionChecked()};
 }
 
-std::optional<OdCmColor> DialogFactory::colorDialog(wxWindow* parent, const OdCmColor* initial, unsigned)
+std::optional<OdCmColor> DialogFactory::colorDialog(wxWindow* parent, const OdCmColor* initial, unsigned flags)
 {
-    wxColourData data;
-    data.SetChooseFull(true);
-    if (initial)
-        data.SetColour(wxColour(initial->red(), initial->green(), initial->blue()));
-    wxColourDialog dialog(parentFor(parent), &data);
-    if (dialog.ShowModal() != wxID_OK)
-        return {};
-    const wxColour colour = dialog.GetColourData().GetColour();
-    return OdCmColor::fromRGB(colour.Red(), colour.Green(), colour.Blue());
+    ColorDialogController controller(initial, flags);
+    HostDialog dialog(m_pages, velm::getUIFullUrl("Workbench/ColorDialog.qml"), &controller, parent, {});
+    return dialog.showModal() == wxID_OK ? controller.chosen() : std::nullopt;
 }
 
 bool DialogFactory::loadLineTypesDialog(wxWindow* parent, OdDbDatabase* database, OdArray<OdString>& loaded,

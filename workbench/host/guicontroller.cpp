@@ -1,9 +1,11 @@
 #include "host/guicontroller.h"
 
+#include "host/colordescription.h"
 #include "host/pagedialog.h"
 #include "linetypes/linetypelist.h"
 #include "linetypes/linetypepicture.h"
 #include "od/oddbdatabase.h"
+#include "panels/propertytexts.h"
 #include "velm/bridge/conversions.h"
 #include "velm/bridge/externalfunctions.h"
 
@@ -12,15 +14,8 @@
 #include <wx/utils.h>
 
 #include <algorithm>
-#include <iterator>
 
 namespace workbench {
-namespace {
-// The standard lineweights, in hundredths of a millimetre.
-constexpr int lineWeights[] = {0,  5,  9,  13, 15, 18,  20,  25,  30,  35,  40,  50,
-                               53, 60, 70, 80, 90, 100, 106, 120, 140, 158, 200, 211};
-} // namespace
-
 GuiController::GuiController(PageGroup& pages) : m_pages(pages), m_colors(velm::createEmptyGuiController())
 {}
 
@@ -76,7 +71,7 @@ OdCmColor& GuiController::getArrayColor(int index, int flags)
 velm::ColorDescription GuiController::describeColor(const OdCmColor& color, wxColour byLayerColor, bool layerOverride,
                                                     int flags)
 {
-    return m_colors->describeColor(color, byLayerColor, layerOverride, flags);
+    return workbench::describeColor(color, byLayerColor, layerOverride, flags);
 }
 
 int GuiController::colorComboFlagsToDialog(int comboFlags, bool varies)
@@ -110,16 +105,16 @@ bool GuiController::drawLineTypeBitmap(int width, int height, wxBitmap& bitmap, 
 
 int GuiController::lineWeightCount() const
 {
-    return static_cast<int>(std::size(lineWeights));
+    return static_cast<int>(lineWeights().size());
 }
 
 int GuiController::lineWeightAt(int index) const
 {
-    return index >= 0 && index < lineWeightCount() ? lineWeights[index] : 0;
+    return index >= 0 && index < lineWeightCount() ? lineWeights()[static_cast<std::size_t>(index)] : 0;
 }
 
 OdString GuiController::lineWeightName(int lineWeight) const
 {
-    return wxString::FromCDouble(lineWeight / 100.0, 2).Append(" mm").wc_str();
+    return velm::odFromQt(lineWeightText(lineWeight));
 }
 } // namespace workbench

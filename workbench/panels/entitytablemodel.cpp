@@ -82,7 +82,7 @@ EntityTableModel::Row EntityTableModel::makeRow(const OdDbEntity& entity)
     Row row{entity.objectId(), entityGeometry(entity), {}, entity.lineWeight(), entity.color()};
     const auto* text = dynamic_cast<const OdDbText*>(&entity);
     row.texts = {kindOf(entity), nameOf(entity.layerId(), {}), m_texts.number(colorText(entity.color())),
-                 nameOf(entity.linetypeId(), tr("By layer")),
+                 nameOf(entity.linetypeId(), tr("ByLayer")),
                  m_texts.number(text ? velm::toQt(text->textString).simplified() : QString())};
     if (row.drawnColor.isByLayer())
         if (const auto* layer = entity.layerId().open<OdDbLayerTableRecord>())

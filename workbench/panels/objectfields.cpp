@@ -9,7 +9,6 @@
 #include <QCoreApplication>
 
 #include <algorithm>
-#include <array>
 #include <type_traits>
 
 namespace workbench {
@@ -17,10 +16,6 @@ namespace {
 using Type = ObjectField::Type;
 
 constexpr QChar lineMark(0x23CE);
-
-/// In hundredths of a millimetre.
-constexpr std::array lineWeights = {0,  5,  9,  13, 15, 18,  20,  25,  30,  35,  40,  50,
-                                    53, 60, 70, 80, 90, 100, 106, 120, 140, 158, 200, 211};
 
 struct Texts
 {
@@ -42,11 +37,11 @@ ObjectField makeColorField(Object& object)
 template <typename Object>
 ObjectField makeLineWeightField(Object& object)
 {
-    std::vector<int> weights;
-    if constexpr (std::is_same_v<Object, OdDbEntity>)
-        weights = {OdDb::kLnWtByLayer, OdDb::kLnWtByBlock};
-    weights.push_back(OdDb::kLnWtByLwDefault);
-    weights.insert(weights.end(), lineWeights.begin(), lineWeights.end());
+    const std::span<const int> all = lineWeights();
+    std::vector<int> weights(all.begin(), all.end());
+    // A layer has nothing to take these from.
+    if constexpr (!std::is_same_v<Object, OdDbEntity>)
+        std::erase_if(weights, [](int weight) { return weight == OdDb::kLnWtByLayer || weight == OdDb::kLnWtByBlock; });
     return choiceField<int>(Texts::tr("Lineweight"), std::move(weights), lineWeightText, object.lineWeight(),
                             [&object](int weight) { object.setLineWeight(weight); });
 }

@@ -7,6 +7,7 @@
 #include "drawing/drawingcanvas.h"
 #include "host/pagepanel.h"
 #include "od/oddbdatabase.h"
+#include "tour/colourtour.h"
 #include "tour/driver.h"
 #include "tour/imagetour.h"
 #include "tour/linetypetour.h"
@@ -368,6 +369,7 @@ int Tour::run(bool hasDrawing)
         {"tool-icons", images(&ImageTour::showToolIcons)},
         {"units", [this](Tour*) { UnitsTour(m_driver, [this](const QString& name) { save(name); }).run(); }},
         {"linetypes", [this](Tour*) { LineTypeTour(m_driver, [this](const QString& name) { save(name); }).run(); }},
+        {"colours", [this](Tour*) { ColourTour(m_driver, [this](const QString& name) { save(name); }).run(); }},
         {"tool-tip", screens(&ScreenTour::showTip)},
         {"screens", screens(&ScreenTour::showScreens)},
         {"popup", screens(&ScreenTour::openPopup)},

@@ -8,16 +8,6 @@ using namespace velm;
 
 Q_DECLARE_METATYPE(OdCmColor)
 
-namespace {
-QString text(const OdArray<int>& indices)
-{
-    QStringList result;
-    for (const int index : indices)
-        result += QString::number(index);
-    return result.join(' ');
-}
-} // namespace
-
 class TestColorCollection : public QObject
 {
     Q_OBJECT
@@ -42,28 +32,6 @@ private Q_SLOTS:
         const ColorCollection plain;
         plain.initColorIndices(0);
         QCOMPARE(plain.getArrayColor(9, 32), OdCmColor::fromIndex(7));
-    }
-
-    void theRowsOfACombo_data()
-    {
-        QTest::addColumn<int>("flags");
-        QTest::addColumn<QString>("rows");
-        QTest::newRow("standard colours, and picked ones that aren't true colours") << 0 << "3 4 5 6 7 8 9 11";
-        QTest::newRow("true colours as well") << 1 << "3 4 5 6 7 8 9 10 11";
-        QTest::newRow("by layer and by block first") << 3 << "0 1 3 4 5 6 7 8 9 10 11";
-        QTest::newRow("none after them") << 10 << "0 1 2 3 4 5 6 7 8 9 11";
-        QTest::newRow("by layer as black behind the standard colours") << 4 << "3 4 5 6 7 8 9 0 11";
-        QTest::newRow("white mode has by layer's row for white") << 32 << "3 4 5 6 7 8 0 11";
-        QTest::newRow("white mode and black by layer") << 36 << "3 4 5 6 7 8 0 0 11";
-    }
-    void theRowsOfACombo()
-    {
-        QFETCH(int, flags);
-        QFETCH(QString, rows);
-        const ColorCollection colors;
-        QCOMPARE(colors.tryAddColor(OdCmColor::fromRGB(9, 9, 9), 1), std::optional<int>(10));
-        QCOMPARE(colors.tryAddColor(OdCmColor::fromIndex(40), 0), std::optional<int>(11));
-        QCOMPARE(text(colors.initColorIndices(flags)), rows);
     }
 
     void aColorIsTakenUpWhereTheFlagsAllowIt_data()
