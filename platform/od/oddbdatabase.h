@@ -81,6 +81,9 @@ public:
     /// What the lineweight "by default" means, in hundredths of a millimetre.
     int getLWDEFAULT() const { return m_defaultLineWeight; }
     void setLWDEFAULT(int lineWeight) { m_defaultLineWeight = lineWeight; }
+    /// What the dashes of all linetypes are multiplied by; above zero.
+    double getLTSCALE() const { return m_linetypeScale; }
+    void setLTSCALE(double scale) { m_linetypeScale = scale; }
     /// The style of new dimensions and leaders (initially "Standard").
     OdDbObjectId getDIMSTYLE() const { return m_currentDimStyle; }
     void setDIMSTYLE(const OdDbObjectId& dimStyle) { m_currentDimStyle = dimStyle; }
@@ -118,6 +121,7 @@ private:
     OdDbObjectId m_currentLinetype;
     int m_currentLineWeight = OdDb::kLnWtByLayer;
     int m_defaultLineWeight = 25;
+    double m_linetypeScale = 1.0;
     OdDbObjectId m_currentDimStyle;
     bool m_tileMode = true;
     OdDbObjectId m_paperSpace;

@@ -8,6 +8,7 @@
 #include "units/unitsdialogcontroller.h"
 #include "velm/bridge/externalfunctions.h"
 #include "velm/bridge/iguicontroller.h"
+#include "velm/dialogs/idialogfactory.h"
 #include "velm/dialogs/ihostdialog.h"
 
 namespace workbench {
@@ -67,6 +68,38 @@ void editUnits(MainFrame& frame)
     document->database()->formatter().setUnits(controller.units());
     frame.unitsChanged();
 }
+void loadLineTypes(MainFrame& frame)
+{
+    OdApDocument* document = frame.documents().current();
+    OdArray<OdString> loaded;
+    if (!document) {
+        frame.commandLine().log(_("No drawing is open."));
+        return;
+    }
+    if (velm::dlgFactory()->loadLineTypesDialog(&frame, document->database(), loaded, {}, {}))
+        for (const OdString& name : loaded)
+            frame.commandLine().log(wxString::Format(_("Loaded the linetype %s"), name.c_str()));
+}
+
+void setLineTypeScale(MainFrame& frame, const wxString& text)
+{
+    constexpr double largest = 1e9;
+    OdApDocument* document = frame.documents().current();
+    if (!document) {
+        frame.commandLine().log(_("No drawing is open."));
+        return;
+    }
+    OdDbDatabase* database = document->database();
+    double scale = 0.0;
+    if (text.ToCDouble(&scale) && scale > 0.0 && scale <= largest) {
+        database->setLTSCALE(scale);
+        frame.drawingChanged();
+    } else if (!text.empty()) {
+        frame.commandLine().log(_("A linetype scale is a number above zero."));
+        return;
+    }
+    frame.commandLine().log(wxString::Format(_("Linetype scale: %s"), wxString::FromCDouble(database->getLTSCALE())));
+}
 } // namespace
 
 void addDrawingCommands(Commands& commands, MainFrame& frame)
@@ -94,6 +127,9 @@ void addDrawingCommands(Commands& commands, MainFrame& frame)
                  [&frame](const wxString& name) { setCurrentLayer(frame, name); });
     commands.add("UNITS", _("Changes how the drawing writes lengths and angles"),
                  [&frame](const wxString&) { editUnits(frame); });
+    commands.add("LINETYPE", _("Loads linetypes from a file"), [&frame](const wxString&) { loadLineTypes(frame); });
+    commands.add("LTSCALE", _("Makes the dashes of all linetypes longer or shorter: LTSCALE factor, or LTSCALE alone"),
+                 [&frame](const wxString& scale) { setLineTypeScale(frame, scale); });
     commands.add("ERASE", _("Erases what is selected"), [&frame](const wxString&) { eraseSelected(frame); });
 }
 } // namespace workbench

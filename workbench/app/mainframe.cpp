@@ -55,6 +55,7 @@ MainFrame::MainFrame(VelmSession& session, HostServices& services, PageGroup& pa
     m_documents.log = [this](const wxString& line) { m_commandLine->log(line); };
     m_layers.onEdited = [this] { drawingChanged(); };
     m_dimStyles.onEdited = [this] { drawingChanged(); };
+    m_services.dialogs().onDrawingChanged = [this] { drawingChanged(); };
     properties().onEdited = [this] { drawingChanged(); };
     structure().onBranchWanted = [this](const QModelIndex& index) {
         branch().show(index);
@@ -100,6 +101,7 @@ MainFrame::~MainFrame()
     properties().onEdited = nullptr;
     m_layers.onEdited = nullptr;
     m_dimStyles.onEdited = nullptr;
+    m_services.dialogs().onDrawingChanged = nullptr;
     m_selection.disconnect();
     // The pages go before the controllers that they show, which are members.
     DestroyChildren();

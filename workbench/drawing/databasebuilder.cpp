@@ -356,6 +356,12 @@ void DatabaseBuilder::setVariableString(const std::string& key, const std::strin
         m_currentLayer = text(value);
 }
 
+void DatabaseBuilder::setVariableDouble(const std::string& key, double value, int)
+{
+    if (key == "$LTSCALE" && std::isfinite(value) && value > 0.0)
+        m_database->setLTSCALE(value);
+}
+
 void DatabaseBuilder::setVariableInt(const std::string& key, int value, int)
 {
     if (key == "$LUNITS")

@@ -62,6 +62,7 @@ public:
     void addMText(const DL_MTextData& data) override;
 
     void setVariableString(const std::string& key, const std::string& value, int code) override;
+    void setVariableDouble(const std::string& key, double value, int code) override;
     void setVariableInt(const std::string& key, int value, int code) override;
 
 private:

@@ -284,8 +284,11 @@ int Tessellator::dashPattern(const OdDbLinetypeTableRecord* linetype)
     if (!linetype || linetype->dashes().isEmpty())
         return -1;
     const auto [found, isNew] = m_patterns.try_emplace(linetype, static_cast<int>(m_result.dashPatterns.size()));
-    if (isNew)
-        m_result.dashPatterns.emplace_back(linetype->dashes().begin(), linetype->dashes().end());
+    if (isNew) {
+        std::vector<double>& pattern = m_result.dashPatterns.emplace_back();
+        for (const double dash : linetype->dashes())
+            pattern.push_back(dash * m_database.getLTSCALE());
+    }
     return found->second;
 }
 

@@ -4,8 +4,13 @@
 #include "host/messagedialog.h"
 #include "host/pagedialog.h"
 #include "host/pagegroup.h"
+#include "linetypes/linetypefile.h"
+#include "linetypes/loadlinetypescontroller.h"
 #include "units/calculatorcontroller.h"
+#include "velm/bridge/conversions.h"
 #include "velm/bridge/externalfunctions.h"
+
+#include <wx/filedlg.h>
 
 #include <limits>
 
@@ -34,6 +39,28 @@ std::optional<OdCmColor> DialogFactory::colorDialog(wxWindow* parent, const OdCm
     ColorDialogController controller(initial, flags);
     HostDialog dialog(m_pages, velm::getUIFullUrl("Workbench/ColorDialog.qml"), &controller, parent, {});
     return dialog.showModal() == wxID_OK ? controller.chosen() : std::nullopt;
+}
+
+bool DialogFactory::loadLineTypesDialog(wxWindow* parent, OdDbDatabase* database, OdArray<OdString>& loaded,
+                                        const wxString& file, const OdString& name)
+{
+    if (!database)
+        return false;
+    LoadLineTypesController controller(*database, [this] {
+        wxFileDialog dialog(parentFor(nullptr), _("Open Linetypes"), {}, {},
+                            _("Linetypes (*.lin)|*.lin;*.LIN|All files|*"), wxFD_OPEN | wxFD_FILE_MUST_EXIST);
+        return dialog.ShowModal() == wxID_OK ? velm::toQt(dialog.GetPath()) : QString();
+    });
+    controller.open(file.empty() ? standardLineTypes() : velm::toQt(file));
+    controller.choose(velm::toQt(name));
+    HostDialog dialog(m_pages, velm::getUIFullUrl("Workbench/LoadLineTypesDialog.qml"), &controller, parent,
+                      {.resizable = true});
+    if (dialog.showModal() != wxID_OK)
+        return false;
+    loaded = controller.loaded();
+    if (onDrawingChanged)
+        onDrawingChanged();
+    return true;
 }
 
 bool DialogFactory::quickCalculator(wxWindow* parent, OdDbEvalVariantPtr& value, bool)

@@ -5,8 +5,7 @@
 namespace workbench {
 class PageGroup;
 
-/// The host's dialogs: message boxes, the colour dialog and the calculator. The dialog that loads linetypes doesn't
-/// exist in this host and answers as if it were cancelled.
+/// The host's dialogs: message boxes, the colour dialog, the dialog that loads linetypes, and the calculator.
 class DialogFactory : public velm::IDialogFactory
 {
 public:
@@ -18,12 +17,13 @@ public:
                                  const std::vector<velm::MessageButtonInfo>& buttons, wxWindow* parent) override;
     void hostDialog1() override {}
     std::optional<OdCmColor> colorDialog(wxWindow* parent, const OdCmColor* initial, unsigned flags) override;
-    bool loadLineTypesDialog(wxWindow*, OdDbDatabase*, OdArray<OdString>&, const wxString&, const OdString&) override
-    {
-        return false;
-    }
+    /// Begins with the file, or with the one that comes with the program, and with the linetype of the name.
+    bool loadLineTypesDialog(wxWindow* parent, OdDbDatabase* database, OdArray<OdString>& loaded, const wxString& file,
+                             const OdString& name) override;
     /// Cancelled, it leaves the variant as it was.
     bool quickCalculator(wxWindow* parent, OdDbEvalVariantPtr& value, bool) override;
+
+    std::function<void()> onDrawingChanged; ///< a dialog changed what is in a drawing
 
 private:
     wxWindow* parentFor(wxWindow* parent) const;

@@ -2,6 +2,9 @@
 
 #include "host/colordescription.h"
 #include "host/pagedialog.h"
+#include "linetypes/linetypelist.h"
+#include "linetypes/linetypepicture.h"
+#include "od/oddbdatabase.h"
 #include "panels/propertytexts.h"
 #include "velm/bridge/conversions.h"
 #include "velm/bridge/externalfunctions.h"
@@ -74,6 +77,30 @@ velm::ColorDescription GuiController::describeColor(const OdCmColor& color, wxCo
 int GuiController::colorComboFlagsToDialog(int comboFlags, bool varies)
 {
     return m_colors->colorComboFlagsToDialog(comboFlags, varies);
+}
+
+OdString GuiController::linetypeLocalName(const OdString& storedName) const
+{
+    return lineTypeLocalName(storedName);
+}
+
+bool GuiController::loadLineTypes(OdDbDatabase* database, bool noSecondOption, OdDbObjectId& id, bool noFirstOption,
+                                  velm::LoadedLineTypes& lineTypes)
+{
+    if (!database)
+        return false;
+    lineTypes.ids = listLineTypes(*database, {.withByLayer = noFirstOption, .usedOnly = !noSecondOption, .wanted = id});
+    return true;
+}
+
+bool GuiController::drawLineTypeBitmap(int width, int height, wxBitmap& bitmap, OdDbObjectId lineType, OdDbObjectId,
+                                       const wxColour& background) const
+{
+    const auto* record = lineType.open<OdDbLinetypeTableRecord>();
+    const wxBitmap picture = record ? lineTypePicture(record->dashes(), {width, height}, background) : wxBitmap();
+    if (picture.IsOk())
+        bitmap = picture;
+    return picture.IsOk();
 }
 
 int GuiController::lineWeightCount() const

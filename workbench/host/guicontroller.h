@@ -8,9 +8,9 @@
 namespace workbench {
 class PageGroup;
 
-/// The host's GUI service: dialogs with pages, addresses opened in the browser, and the lineweight table, and what
-/// colours are called and look like. The shared colours are velm's own. Not supported, and answered as by a host
-/// without them: linetype lists and pictures, and what only other hosts' plugins ask for.
+/// The host's GUI service: dialogs with pages, addresses opened in the browser, linetypes, the lineweight table, and
+/// what colours are called and look like. The shared colours are velm's own. Not supported, and answered as by a host
+/// without it: what only other hosts' plugins ask for.
 class GuiController : public velm::IGuiController
 {
 public:
@@ -39,12 +39,14 @@ public:
     velm::ColorDescription describeColor(const OdCmColor& color, wxColour byLayerColor, bool layerOverride,
                                          int flags) override;
     int colorComboFlagsToDialog(int comboFlags, bool varies) override;
-    OdString linetypeLocalName(const OdString& storedName) const override { return storedName; }
-    bool loadLineTypes(OdDbDatabase*, bool, OdDbObjectId&, bool, velm::LoadedLineTypes&) override { return false; }
-    bool drawLineTypeBitmap(int, int, wxBitmap&, OdDbObjectId, OdDbObjectId, const wxColour&) const override
-    {
-        return false;
-    }
+    OdString linetypeLocalName(const OdString& storedName) const override;
+    /// With the first option "ByLayer" and "ByBlock" are left out; with the second, linetypes that nothing uses, apart
+    /// from `id`.
+    bool loadLineTypes(OdDbDatabase* database, bool noSecondOption, OdDbObjectId& id, bool noFirstOption,
+                       velm::LoadedLineTypes& lineTypes) override;
+    /// False for an id that is no linetype and for a size that no picture has. The second id isn't used.
+    bool drawLineTypeBitmap(int width, int height, wxBitmap& bitmap, OdDbObjectId lineType, OdDbObjectId second,
+                            const wxColour& background) const override;
     int lineWeightCount() const override;
     int lineWeightAt(int index) const override;
     OdString lineWeightName(int lineWeight) const override;

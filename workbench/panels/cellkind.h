@@ -7,10 +7,11 @@ namespace workbench {
 enum class CellKind
 {
     Text = 0,
-    Check = 1,  ///< Qt::CheckStateRole, which a click writes
-    Color = 2,  ///< a choice beside the colour of Qt::DecorationRole
-    Number = 3, ///< a text that stands on the right
-    Choice = 4, ///< one of some texts, which role "choices" gives; Qt::EditRole is its index
+    Check = 1,    ///< Qt::CheckStateRole, which a click writes
+    Color = 2,    ///< a choice beside the colour of Qt::DecorationRole
+    Number = 3,   ///< a text that stands on the right
+    Choice = 4,   ///< one of some texts, which role "choices" gives; Qt::EditRole is its index
+    LineType = 5, ///< the line of Qt::DecorationRole, a list of dashes
 };
 
 /// A column of a kind, aligned as it goes with that.

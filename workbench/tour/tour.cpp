@@ -10,6 +10,7 @@
 #include "tour/colourtour.h"
 #include "tour/driver.h"
 #include "tour/imagetour.h"
+#include "tour/linetypetour.h"
 #include "tour/paneltour.h"
 #include "tour/screentour.h"
 #include "tour/tabletour.h"
@@ -367,6 +368,7 @@ int Tour::run(bool hasDrawing)
         {"image-zoomed", images(&ImageTour::placePicture)},
         {"tool-icons", images(&ImageTour::showToolIcons)},
         {"units", [this](Tour*) { UnitsTour(m_driver, [this](const QString& name) { save(name); }).run(); }},
+        {"linetypes", [this](Tour*) { LineTypeTour(m_driver, [this](const QString& name) { save(name); }).run(); }},
         {"colours", [this](Tour*) { ColourTour(m_driver, [this](const QString& name) { save(name); }).run(); }},
         {"tool-tip", screens(&ScreenTour::showTip)},
         {"screens", screens(&ScreenTour::showScreens)},
