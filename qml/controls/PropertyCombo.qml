@@ -160,10 +160,7 @@ T.AbstractButton {
     Accessible.description: currentName
 
     onClicked: toggle()
-    onActiveFocusChanged: {
-        if (!activeFocus)
-            close();
-    }
+    onActiveFocusChanged: leaving.restart()
     onVisibleChanged: close()
     onEnabledChanged: close()
     onModelChanged: rowsChanged()
@@ -258,6 +255,16 @@ T.AbstractButton {
                     return;
                 }
             }
+        }
+    }
+    // A window manager may take the keyboard for a moment while it hands on the click that opened the list.
+    Timer {
+        id: leaving
+
+        interval: 100
+        onTriggered: {
+            if (!control.activeFocus)
+                control.close();
         }
     }
     // A dialog is opened when nothing of the list is at work any more.

@@ -465,7 +465,11 @@ void DrawingCanvasTest::dashedLinesHaveGaps()
     QVERIFY(pixel(m_canvas, x(15), y) == m_background);
     QVERIFY(pixel(m_canvas, x(85), y) == wxColour(255, 0, 0));
     QVERIFY(pixel(m_canvas, x(95), y) == m_background);
-    m_canvas->zoomBy(0.04, wxPoint(x(50), y)); // too small to be seen: continuous
+    database.setLTSCALE(2.0);
+    m_canvas->refreshDrawing();
+    QVERIFY(waitUntil([&] { return pixel(m_canvas, x(25), y) == m_background; }));
+    QVERIFY(pixel(m_canvas, x(15), y) == wxColour(255, 0, 0));
+    m_canvas->zoomBy(0.02, wxPoint(x(50), y)); // too small to be seen: continuous
     QVERIFY(waitUntil([&] {
         for (int column = x(5) + 1; column < x(95); ++column)
             if (pixel(m_canvas, column, y) != wxColour(255, 0, 0))

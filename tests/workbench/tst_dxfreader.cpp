@@ -156,9 +156,11 @@ void DxfReaderTest::attributesAreRead()
     const DxfReadResult result =
         readText(drawing("0 POINT|8 New layer|62 3|6 Dash|370 35|39 99|0 POINT|8 0|0 POINT|8 0|62 0|6 ByBlock|370 -2"
                          "|0 POINT|8 0|62 1|420 1193046|0 POINT|8 0|62 9999",
-                         {}, "0 TABLE|2 LTYPE|0 LTYPE|2 Dash|3 _ _|73 2|40 3|49 2|49 -1|0 ENDTAB"));
+                         {}, "0 TABLE|2 LTYPE|0 LTYPE|2 Dash|3 _ _|73 2|40 3|49 2|49 -1|0 ENDTAB",
+                         "9 $LTSCALE|40 2.5|9 $LTSCALE|40 -1"));
     QCOMPARE(qt(result.error), QString());
     OdDbDatabase& database = *result.database;
+    QCOMPARE(database.getLTSCALE(), 2.5); // the one below zero is none
     const auto* first = entity<OdDbPoint>(result, 0);
     QVERIFY(first->layerId() == database.findLayer(L"new LAYER")->objectId());
     QCOMPARE(int(first->color().colorIndex()), 3);

@@ -8,9 +8,9 @@
 namespace workbench {
 class PageGroup;
 
-/// The host's GUI service: dialogs with pages, addresses opened in the browser, linetypes, the lineweight table, and what
-/// colours are called and look like. The shared colours are velm's own. Not supported, and answered as by a host
-/// without them: what only other hosts' plugins ask for.
+/// The host's GUI service: dialogs with pages, addresses opened in the browser, linetypes, the lineweight table, and
+/// what colours are called and look like. The shared colours are velm's own. Not supported, and answered as by a host
+/// without it: what only other hosts' plugins ask for.
 class GuiController : public velm::IGuiController
 {
 public:

@@ -13,12 +13,12 @@ const velm::Columns& columns()
         velm::Columns made;
         made.initialSortColumn = Model::NameColumn;
         made.columns = {
-            tableColumn(Model::NameColumn, CellKind::Text, Model::tr("Name"), "name", 130)
+            tableColumn(Model::NameColumn, CellKind::Text, Model::tr("Name"), "name", 190)
                 .sortType(velm::SortAlphanumeric),
             tableColumn(Model::LineColumn, CellKind::LineType, Model::tr("Line"), "line", 160),
-            tableColumn(Model::DescriptionColumn, CellKind::Text, Model::tr("Description"), "description", 230)
+            tableColumn(Model::DescriptionColumn, CellKind::Text, Model::tr("Description"), "description", 240)
                 .sortType(velm::SortAlphanumeric),
-            tableColumn(Model::StateColumn, CellKind::Text, Model::tr("In the drawing"), "state", 100)
+            tableColumn(Model::StateColumn, CellKind::Text, Model::tr("In the drawing"), "state", 112)
                 .sortType(velm::SortAlphanumeric),
         };
         return made;

@@ -15,7 +15,7 @@ PanelPage {
     signal accepted
     signal rejected
 
-    implicitWidth: 680
+    implicitWidth: 750
     implicitHeight: 480
 
     Keys.onEscapePressed: rejected()

@@ -369,8 +369,8 @@ int Tour::run(bool hasDrawing)
         {"image-zoomed", images(&ImageTour::placePicture)},
         {"tool-icons", images(&ImageTour::showToolIcons)},
         {"units", [this](Tour*) { UnitsTour(m_driver, [this](const QString& name) { save(name); }).run(); }},
-        {"colours", [this](Tour*) { ColourTour(m_driver, [this](const QString& name) { save(name); }).run(); }},
         {"linetypes", [this](Tour*) { LineTypeTour(m_driver, [this](const QString& name) { save(name); }).run(); }},
+        {"colours", [this](Tour*) { ColourTour(m_driver, [this](const QString& name) { save(name); }).run(); }},
         {"current-properties",
          [this](Tour*) {
              ComboTour(m_driver, write("other.dxf", smallDrawing), [this](const QString& name) { save(name); }).run();
