@@ -40,7 +40,7 @@ void LineTypeDialogTest::init()
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(smallDrawing());
     file.close();
-    m_driver.ask([&] { m_frame.openDrawing(velm::wxFromQt(file.fileName())); });
+    m_driver.ask([&] { openAlone(m_frame, file.fileName()); });
     m_driver.waitFor("the drawing", [&] { return m_frame.canvas().drawnEntityCount() == 2; });
 }
 
