@@ -53,7 +53,7 @@ Item {
     Label {
         id: label
 
-        objectName: "name"
+        objectName: "comboName"
         x: loader.visible ? loader.width + Metrics.spacing : 0
         width: Math.max(0, face.width - x)
         anchors.verticalCenter: parent.verticalCenter

@@ -133,7 +133,7 @@ public:
     }
     QString rowName(int row) const
     {
-        const auto* label = rowItem(row)->findChild<QQuickItem*>(QStringLiteral("name"));
+        const auto* label = rowItem(row)->findChild<QQuickItem*>(QStringLiteral("comboName"));
         return label->property("text").toString();
     }
     QPoint centreOf(const QQuickItem* item) const
