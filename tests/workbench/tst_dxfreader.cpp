@@ -20,6 +20,8 @@ private Q_SLOTS:
     void layoutsShowTheirBlocks();
     void dimStylesHaveTheirValues();
     void layersHaveDescriptionsAndPlotStyles();
+    void currentValuesComeFromTheHeader_data();
+    void currentValuesComeFromTheHeader();
 };
 
 void DxfReaderTest::floorPlanIsReadWhole()
@@ -271,6 +273,33 @@ void DxfReaderTest::layersHaveDescriptionsAndPlotStyles()
     };
     QCOMPARE(read("0"), QString("0// Walls/Wände/Half tone Doors//Normal Roof// Old//"));
     QCOMPARE(read("1"), QString("0// Walls/Wände/ Doors// Roof// Old//")); // they go by colour
+}
+
+void DxfReaderTest::currentValuesComeFromTheHeader_data()
+{
+    QTest::addColumn<QByteArray>("header");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("all of them") << QByteArray(
+                                        "9 $CECOLOR|62 3|9 $CELTYPE|6 dots|9 $CELWEIGHT|370 50|9 $DIMSTYLE|2 Doors")
+                                 << "3 Dots 50 Doors";
+    QTest::newRow("none") << QByteArray() << "256 ByLayer -1 Standard";
+    QTest::newRow("nonsense") << QByteArray("9 $CECOLOR|62 999|9 $CELTYPE|6 No|9 $CELWEIGHT|370 9999|9 $DIMSTYLE|2 No")
+                              << "256 ByLayer -1 Standard";
+}
+
+void DxfReaderTest::currentValuesComeFromTheHeader()
+{
+    QFETCH(QByteArray, header);
+    QFETCH(QString, expected);
+    const DxfReadResult result = readText(drawing(
+        {}, {}, "0 TABLE|2 LTYPE|0 LTYPE|2 Dots|0 ENDTAB|0 TABLE|2 DIMSTYLE|0 DIMSTYLE|2 Doors|0 ENDTAB", header));
+    const OdDbDatabase& database = *result.database;
+    QCOMPARE(QString("%1 %2 %3 %4")
+                 .arg(database.getCECOLOR().colorIndex())
+                 .arg(qt(database.getCELTYPE().open<OdDbLinetypeTableRecord>()->getName()))
+                 .arg(database.getCELWEIGHT())
+                 .arg(qt(database.getDIMSTYLE().open<OdDbDimStyleTableRecord>()->getName())),
+             expected);
 }
 
 QTEST_GUILESS_MAIN(DxfReaderTest)
