@@ -1,3 +1,4 @@
+#include "od/oddbdimension.h"
 #include "workbench/dxftexts.h"
 
 using namespace workbench;
@@ -171,7 +172,7 @@ void DxfFilesTest::claimedCountsAreNotTrusted()
     QCOMPARE(entity<OdDbPolyline>(result, 0)->vertices[0].bulge, 0.0);
     QCOMPARE(entity<OdDbPolyline>(result, 1)->vertices.size(), std::size_t(3));
     QVERIFY((entity<OdDbPolyline>(result, 2)->vertices.back().point == OdGePoint3d{4, 0, 0}));
-    QCOMPARE(entity<OdDbPolyline>(result, 3)->vertices.size(), std::size_t(2));
+    QCOMPARE(entity<OdDbLeader>(result, 3)->vertices.size(), std::size_t(2));
     QCOMPARE(entity<OdDbBlockReference>(result, 4)->columnCount, 1);
     QCOMPARE(result.entityCount, 5); // a polyline without a vertex is none
 }
