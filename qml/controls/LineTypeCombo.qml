@@ -35,8 +35,13 @@ PropertyCombo {
         // Drawn on the ground of the theme, in pixels of the screen.
         readonly property var ground: [Colors.dark, Colors.combo]
 
-        // A page that is made for another theme is there before the host's new colours are.
+        // The host's new colours are there later than the theme's.
         property bool isDue: false
+
+        onGroundChanged: {
+            isDue = false;
+            due.restart();
+        }
 
         image: {
             const pixels = length => Math.round(length * Screen.devicePixelRatio);
@@ -44,6 +49,8 @@ PropertyCombo {
         }
 
         Timer {
+            id: due
+
             interval: 0
             running: true
             onTriggered: picture.isDue = true

@@ -10,6 +10,7 @@
 #include "support/scopes.h"
 #include "velm/bridge/conversions.h"
 #include "velm/drawingprops/ilinetypemodel.h"
+#include "velm/images/imageconversions.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
@@ -34,13 +35,15 @@ QString strokesText(const OdArray<double>& dashes, int length)
     return result.join(u' ');
 }
 
-/// Which pixels of a row aren't the background's: "##..".
-QString rowOf(const wxBitmap& bitmap, int y, const wxColour& background)
+/// Which pixels of a row are of the colour, and which are clear: "##..".
+QString rowOf(const wxBitmap& bitmap, int y, const QColor& colour)
 {
-    const wxImage image = bitmap.ConvertToImage();
+    const QImage image = velm::convertImage(bitmap.ConvertToImage());
     QString result;
-    for (int x = 0; x < image.GetWidth(); ++x)
-        result += wxColour(image.GetRed(x, y), image.GetGreen(x, y), image.GetBlue(x, y)) == background ? '.' : '#';
+    for (int x = 0; x < image.width(); ++x) {
+        const QColor pixel = image.pixelColor(x, y);
+        result += pixel.alpha() == 0 ? '.' : pixel == colour ? '#' : '?';
+    }
     return result;
 }
 
@@ -181,20 +184,19 @@ private Q_SLOTS:
         const GuiController gui(pages);
         OdDbDatabase database;
         const OdDbObjectId dotted = loadLineType(database, {"Dotted", {}, {4, -2, 0, -2}})->objectId();
-        for (const auto& [background, line] : {std::pair{*wxWHITE, *wxBLACK}, {wxColour(1, 1, 1), *wxWHITE}}) {
+        for (const wxColour& colour : {*wxWHITE, wxColour(1, 1, 1)}) {
+            const QColor line = velm::toQt(colour);
             wxBitmap bitmap;
-            QVERIFY(gui.drawLineTypeBitmap(36, 9, bitmap, dotted, {}, background));
+            QVERIFY(gui.drawLineTypeBitmap(36, 9, bitmap, dotted, {}, colour));
             QCOMPARE(bitmap.GetSize(), wxSize(36, 9));
-            QCOMPARE(rowOf(bitmap, 4, background), QString("########....#...########....#...####"));
+            QCOMPARE(rowOf(bitmap, 4, line), QString("########....#...########....#...####"));
             for (const int y : {0, 3, 5, 8})
-                QCOMPARE(rowOf(bitmap, y, background), QString(36, u'.'));
-            const wxImage image = bitmap.ConvertToImage();
-            QCOMPARE(wxColour(image.GetRed(0, 4), image.GetGreen(0, 4), image.GetBlue(0, 4)), line);
+                QCOMPARE(rowOf(bitmap, y, line), QString(36, u'.'));
             for (const wchar_t* name : {L"ByLayer", L"ByBlock", L"Continuous"}) {
-                QVERIFY(gui.drawLineTypeBitmap(5, 24, bitmap, database.findLinetype(name)->objectId(), {}, background));
-                QCOMPARE(rowOf(bitmap, 11, background), QString("#####"));
-                QCOMPARE(rowOf(bitmap, 12, background), QString("#####"));
-                QCOMPARE(rowOf(bitmap, 13, background), QString("....."));
+                QVERIFY(gui.drawLineTypeBitmap(5, 24, bitmap, database.findLinetype(name)->objectId(), {}, colour));
+                QCOMPARE(rowOf(bitmap, 11, line), QString("#####"));
+                QCOMPARE(rowOf(bitmap, 12, line), QString("#####"));
+                QCOMPARE(rowOf(bitmap, 13, line), QString("....."));
             }
         }
         QCOMPARE(velm::ILineTypeModel::createBitmap(36, 9, dotted, gui).size(), QSize(36, 9));

@@ -97,6 +97,8 @@ bool GuiController::drawLineTypeBitmap(int width, int height, wxBitmap& bitmap, 
                                        const wxColour& background) const
 {
     const auto* record = lineType.open<OdDbLinetypeTableRecord>();
+    // In this host's themes the suggested ground is the grey that is strongest on the panels: the line is drawn with
+    // it, and the combo's own ground is left to be seen.
     const wxBitmap picture = record ? lineTypePicture(record->dashes(), {width, height}, background) : wxBitmap();
     if (picture.IsOk())
         bitmap = picture;

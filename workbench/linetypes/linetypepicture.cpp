@@ -1,8 +1,6 @@
 #include "linetypes/linetypepicture.h"
 
-#include "drawing/drawingpainter.h"
-
-#include <wx/dcmemory.h>
+#include <wx/image.h>
 
 #include <algorithm>
 #include <cmath>
@@ -51,20 +49,20 @@ std::vector<std::pair<int, int>> lineTypeStrokes(const OdArray<double>& dashes, 
     return strokes;
 }
 
-wxBitmap lineTypePicture(const OdArray<double>& dashes, const wxSize& size, const wxColour& background)
+wxBitmap lineTypePicture(const OdArray<double>& dashes, const wxSize& size, const wxColour& colour)
 {
     if (size.x <= 0 || size.y <= 0 || size.x > largestPicture || size.y > largestPicture)
         return {};
-    wxBitmap bitmap(size.x, size.y, 24);
-    wxMemoryDC canvas(bitmap);
-    canvas.SetBackground(wxBrush(background));
-    canvas.Clear();
-    canvas.SetPen(*wxTRANSPARENT_PEN);
-    canvas.SetBrush(wxBrush(DrawingPainter::visibleColour(OdCmColor::fromIndex(7), background)));
+    wxImage image(size, false);
+    image.SetRGB(wxRect(size), colour.Red(), colour.Green(), colour.Blue());
+    image.InitAlpha();
+    std::fill_n(image.GetAlpha(), size.x * size.y, static_cast<unsigned char>(wxIMAGE_ALPHA_TRANSPARENT));
     const int thickness = std::max(1, size.y / heightPerThickness);
+    const int top = (size.y - thickness) / 2;
     for (const auto& [first, last] : lineTypeStrokes(dashes, size.x))
-        canvas.DrawRectangle(first, (size.y - thickness) / 2, last - first, thickness);
-    canvas.SelectObject(wxNullBitmap);
-    return bitmap;
+        for (int y = top; y < top + thickness; ++y)
+            std::fill_n(image.GetAlpha() + y * size.x + first, last - first,
+                        static_cast<unsigned char>(wxIMAGE_ALPHA_OPAQUE));
+    return wxBitmap(image, 32);
 }
 } // namespace workbench

@@ -14,7 +14,6 @@ namespace workbench {
 /// continuous line, give a plain one.
 std::vector<std::pair<int, int>> lineTypeStrokes(const OdArray<double>& dashes, int length);
 
-/// A line of a linetype across the middle of a picture, black or white as it goes with the background. Null for a size
-/// that no picture has.
-wxBitmap lineTypePicture(const OdArray<double>& dashes, const wxSize& size, const wxColour& background);
+/// A line of a linetype across the middle of a picture that is clear beside it. Null for a size that no picture has.
+wxBitmap lineTypePicture(const OdArray<double>& dashes, const wxSize& size, const wxColour& colour);
 } // namespace workbench
