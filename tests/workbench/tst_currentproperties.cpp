@@ -255,11 +255,16 @@ void CurrentPropertiesTest::aLoadedLinetypeIsGivenToTheSelection()
             house.database->addLinetype(name);
             loaded.append(name);
         }
+        // Somebody looks at the drawing before the model does.
+        house.bar.hasDialog = [] { return true; };
+        house.bar.refresh();
+        house.bar.hasDialog = nullptr;
         return true;
     };
     house.edits = 0;
     house.clickLinetype(house.bar.linetypes()->rowCount() - 1);
     QVERIFY(house.shown().contains("Dotted"));
+    QCOMPARE(house.wall->linetypeId(), house.database->findLinetype(L"Dotted")->objectId());
     QVERIFY(house.bar.linetypes()->getIndexFromLocalName("Two") > 0);
     // Others show the drawing's linetypes, too.
     QVERIFY(house.edits > 0);
@@ -289,6 +294,10 @@ void CurrentPropertiesTest::arrowheadsAreTheLeaders()
     QCOMPARE(first->arrowhead, std::optional<OdString>(L"Door"));
     QCOMPARE(house.edits, 1);
     QVERIFY(house.database->findDimStyle(L"Standard")->dimldrblk().isEmpty());
+    // Another drawing has no such block.
+    house.documents.open(std::make_unique<OdApDocument>(L"/two.dxf", std::make_unique<OdDbDatabase>()));
+    QVERIFY(house.bar.extraArrowheadName().isEmpty());
+    QCOMPARE(house.bar.arrowheads()->rowCount(), extra + 1);
 }
 
 void CurrentPropertiesTest::whatIsOddStillHasARow()
@@ -321,8 +330,10 @@ void CurrentPropertiesTest::eachDrawingHasItsOwn()
     house.clickLinetype("Dashed");
     house.select({house.wall});
     const QPointer<QAbstractItemModel> weights = house.bar.lineWeights();
+    const int edits = house.edits;
     OdApDocument* second = house.documents.open(std::make_unique<OdApDocument>(L"/two.dxf", std::move(other)));
     QCOMPARE(house.shown(), QString("3, ByLayer, -1 mm, _CLOSEDFILLED"));
+    QCOMPARE(house.edits, edits);
     QVERIFY(house.bar.lineWeights() != weights && weights);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(!weights);

@@ -47,6 +47,7 @@ void setCurrentLayer(MainFrame& frame, const wxString& name)
             return;
         }
         database->setCurrentLayer(layer->objectId());
+        frame.drawingChanged();
     }
     if (const auto* current = database->currentLayer().open<OdDbLayerTableRecord>())
         frame.commandLine().log(wxString::Format(_("Current layer: %s"), current->getName().c_str()));
@@ -76,9 +77,15 @@ void loadLineTypes(MainFrame& frame)
         frame.commandLine().log(_("No drawing is open."));
         return;
     }
-    if (velm::dlgFactory()->loadLineTypesDialog(&frame, document->database(), loaded, {}, {}))
-        for (const OdString& name : loaded)
-            frame.commandLine().log(wxString::Format(_("Loaded the linetype %s"), name.c_str()));
+    if (!velm::dlgFactory()->loadLineTypesDialog(&frame, document->database(), loaded, {}, {}))
+        return;
+    for (const OdString& name : loaded)
+        frame.commandLine().log(wxString::Format(_("Loaded the linetype %s"), name.c_str()));
+    // A name asked for makes the combo draw all linetypes anew, also when there are as many as before.
+    if (!loaded.isEmpty())
+        if (const auto* last = document->database()->findLinetype(loaded.last()))
+            frame.currentProperties().linetypes()->refresh(false, last->objectId());
+    frame.drawingChanged();
 }
 
 void setLineTypeScale(MainFrame& frame, const wxString& text)

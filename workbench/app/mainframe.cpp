@@ -58,7 +58,6 @@ MainFrame::MainFrame(VelmSession& session, HostServices& services, PageGroup& pa
     m_documents.log = [this](const wxString& line) { m_commandLine->log(line); };
     m_layers.onEdited = [this] { drawingChanged(); };
     m_dimStyles.onEdited = [this] { drawingChanged(); };
-    m_services.dialogs().onDrawingChanged = [this] { drawingChanged(); };
     properties().onEdited = [this] { drawingChanged(); };
     m_currentProperties.onEdited = [this] { drawingChanged(); };
     m_currentProperties.hasDialog = [this] { return m_pages.modals().top() != nullptr; };
@@ -109,7 +108,6 @@ MainFrame::~MainFrame()
     m_currentProperties.onEdited = nullptr;
     m_layers.onEdited = nullptr;
     m_dimStyles.onEdited = nullptr;
-    m_services.dialogs().onDrawingChanged = nullptr;
     m_selection.disconnect();
     // The pages go before the controllers that they show, which are members.
     DestroyChildren();

@@ -58,8 +58,6 @@ bool DialogFactory::loadLineTypesDialog(wxWindow* parent, OdDbDatabase* database
     if (dialog.showModal() != wxID_OK)
         return false;
     loaded = controller.loaded();
-    if (onDrawingChanged)
-        onDrawingChanged();
     return true;
 }
 

@@ -23,8 +23,6 @@ public:
     /// Cancelled, it leaves the variant as it was.
     bool quickCalculator(wxWindow* parent, OdDbEvalVariantPtr& value, bool) override;
 
-    std::function<void()> onDrawingChanged; ///< a dialog changed what is in a drawing
-
 private:
     wxWindow* parentFor(wxWindow* parent) const;
 

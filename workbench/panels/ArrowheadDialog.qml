@@ -27,16 +27,23 @@ PanelPage {
         PlainListView {
             id: list
 
+            // A list that is made begins at its first row; the controller knows better.
+            property bool isReady: false
+
             objectName: "arrowheads"
             Layout.fillWidth: true
             Layout.fillHeight: true
             focus: true
             model: page.controller.names
             Accessible.name: page.title
-            onCurrentIndexChanged: page.controller.chosen = currentIndex
+            onCurrentIndexChanged: {
+                if (isReady)
+                    page.controller.chosen = currentIndex;
+            }
             onActivated: page.accepted()
             Component.onCompleted: {
                 currentIndex = page.controller.chosen;
+                isReady = true;
                 view.positionViewAtIndex(currentIndex, ListView.Contain);
             }
 

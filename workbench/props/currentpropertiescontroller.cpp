@@ -56,6 +56,7 @@ CurrentPropertiesController::CurrentPropertiesController(OdApDocManager& documen
     connect(&m_selection, &Selection::changed, this, &CurrentPropertiesController::show);
     // After the linetypes, which have changed to the drawing by then.
     m_documents.addReactor(this);
+    m_shownDocument = document;
     show();
 }
 
@@ -143,13 +144,14 @@ void CurrentPropertiesController::rebuild()
     Q_EMIT modelsChanged();
 }
 
-void CurrentPropertiesController::documentBecameCurrent(OdApDocument*)
+void CurrentPropertiesController::documentBecameCurrent(OdApDocument* document)
 {
-    if (defaultLineWeight() != m_defaultLineWeight) {
-        const Owned<velm::ILineWeightModel> former = std::move(m_lineWeights);
-        buildLineWeights();
-        Q_EMIT modelsChanged();
-    }
+    m_shownDocument = document;
+    // Another drawing may have no block of that name.
+    const bool hadExtra = !m_extraArrowhead.internalName.isEmpty();
+    m_extraArrowhead = {};
+    if (hadExtra || defaultLineWeight() != m_defaultLineWeight)
+        rebuild();
     show();
 }
 
@@ -163,7 +165,6 @@ void CurrentPropertiesController::show()
     }
     const QScopedValueRollback showing(m_isShowing, true);
     const PropertyTargets shown = targets();
-    m_shownDocument = m_documents.curDocument();
     showColor(shown);
     showLinetype(shown);
     showLineWeight(shown);
@@ -184,7 +185,9 @@ void CurrentPropertiesController::showLinetype(const PropertyTargets& targets)
 {
     const std::optional<OdDbObjectId> linetype = targets.linetype();
     m_linetypes->setIsVaries(!linetype && !targets.isNone());
-    m_linetypes->refresh(false, {});
+    // A model whose dialog is open still goes by its rows, and builds them anew by itself.
+    if (!hasDialog || !hasDialog())
+        m_linetypes->refresh(false, {});
     if (linetype)
         m_linetypes->setCurrentLineType(*linetype);
 }
@@ -210,6 +213,9 @@ void CurrentPropertiesController::showArrowhead(const PropertyTargets& targets)
         return;
     }
     if (std::ranges::none_of(m_commonArrowheads, isShown) && !isShown(m_extraArrowhead)) {
+        m_isOutdated = hasDialog && hasDialog();
+        if (m_isOutdated)
+            return;
         const Owned<velm::IArrowHeadModel> former = std::move(m_arrowheads);
         m_extraArrowhead.internalName = *arrowhead;
         buildArrowheads();

@@ -87,9 +87,18 @@ void ComboTour::chooseLineWeight()
 void ComboTour::chooseArrowhead()
 {
     openList("arrowHeadCombo", "current-arrowheads");
+    m_driver.type("dot");
+    m_driver.key("Return");
+    m_driver.waitFor("the current arrowhead", [&] {
+        const OdDbDatabase* database = m_frame.documents().current()->database();
+        return database->getDIMSTYLE().open<OdDbDimStyleTableRecord>()->dimldrblk().iCompare(L"_Dot") == 0;
+    });
+    openList("arrowHeadCombo", "arrowhead-chosen");
     m_driver.key("End");
     m_driver.key("Return");
     m_driver.waitForDialog("Arrowheads");
+    m_driver.waitFor("the current arrowhead in the dialog",
+                     [&] { return m_driver.property("arrowheads", "currentIndex") == 3; });
     m_save("arrowhead-dialog");
     m_driver.key("Escape");
     m_driver.waitForNoDialog();
