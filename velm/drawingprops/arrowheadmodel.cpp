@@ -122,7 +122,7 @@ const ArrowHeadRecord& ArrowHeadModel::currentArrowHead() const
 {
     if (m_pimpl->currentIndex > m_pimpl->count() - 1)
         return m_pimpl->extra;
-    if (m_pimpl->currentIndex < 0)
+    if (m_pimpl->currentIndex < 0) // which setCurrentIndex() takes. This must stay.
         throw std::out_of_range("invalid vector subscript");
     return m_pimpl->records[static_cast<std::size_t>(m_pimpl->currentIndex)];
 }

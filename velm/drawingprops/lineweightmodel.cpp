@@ -83,6 +83,7 @@ void LineWeightModel::setIsVaries(bool varies)
     const int last = count() - 1;
     if (varies && last >= 0) {
         beginInsertRows({}, last + 1, last + 1);
+        // Not translated, and with the number of "by default". This must stay.
         m_rows.push_back(std::make_unique<LineWeightObject>(QStringLiteral("*Varies*"), 0.0, OdDb::kLnWtByLwDefault));
         endInsertRows();
         makeCurrent(last + 1);
