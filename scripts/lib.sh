@@ -7,7 +7,7 @@ say() { printf '==> %s\n' "$*"; }
 build_packages=(
   g++ cmake ninja-build ccache mold pkg-config
   qt6-base-dev qt6-base-private-dev qt6-declarative-dev qt6-declarative-dev-tools qt6-svg-dev libgl-dev
-  libwxgtk3.2-dev libgtk-3-dev libdxflib-dev
+  libwxgtk3.2-dev libgtk-3-dev libdxflib-dev cmark-gfm
 )
 run_packages=(
   qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-templates qml6-module-qtquick-layouts

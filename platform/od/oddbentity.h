@@ -16,6 +16,9 @@ public:
     void setLinetype(OdDbObjectId linetype) { m_linetype = linetype; }
     int lineWeight() const { return m_lineWeight; }
     void setLineWeight(int lineWeight) { m_lineWeight = lineWeight; }
+    /// In percent from 0 to 90, by layer or by block.
+    int transparency() const { return m_transparency; }
+    void setTransparency(int transparency) { m_transparency = transparency; }
     /// The block that holds the entity.
     OdDbObjectId ownerId() const { return m_owner; }
 
@@ -26,6 +29,7 @@ private:
     OdDbObjectId m_layer;
     OdDbObjectId m_linetype; // null: by layer
     int m_lineWeight = OdDb::kLnWtByLayer;
+    int m_transparency = OdDb::kTransparencyByLayer;
     OdDbObjectId m_owner;
 };
 

@@ -7,13 +7,18 @@
 
 #include <map>
 
-/// Lineweights are in hundredths of a millimetre; below zero stand the special ones.
+/// Lineweights are in hundredths of a millimetre, transparencies in percent; below zero stand the special ones.
 namespace OdDb {
 enum LineWeight
 {
     kLnWtByLayer = -1,
     kLnWtByBlock = -2,
     kLnWtByLwDefault = -3,
+};
+enum Transparency
+{
+    kTransparencyByLayer = -1,
+    kTransparencyByBlock = -2,
 };
 }
 

@@ -4,6 +4,8 @@
 #include "ut/settingsfile.h"
 
 #include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QStandardPaths>
 
 #include <array>
@@ -11,6 +13,8 @@
 
 namespace ut {
 namespace {
+constexpr int onlyProfile = 1;
+
 std::unique_ptr<SettingsFile> openStore;
 
 SettingsFile& store()
@@ -71,6 +75,12 @@ std::optional<std::array<int, count>> numbers(const QString& text)
 bool write(ECfgGroup group, const OdString& key, const QString& value)
 {
     return store().set(sectionOf(group), textOf(key), value);
+}
+
+/// A list is one text, in the nameless entry below its key.
+QString listEntry(const OdString& key)
+{
+    return textOf(key) + u'/';
 }
 } // namespace
 
@@ -190,6 +200,48 @@ bool Config::listGroups(ECfgGroup group, OdArray<OdString>& groups, const OdStri
     for (const QString& name : store().groups(sectionOf(group), textOf(key)))
         groups.append(name.toStdWString());
     return !groups.isEmpty();
+}
+
+Config::ERegList Config::loadListFromRegistry(ECfgGroup group, const OdString& key, OdArray<OdString>& list)
+{
+    list.clear();
+    const std::optional<QString> text = store().value(sectionOf(group), listEntry(key));
+    if (!text)
+        return ERegList::NoKey;
+    for (const QJsonValue& item : QJsonDocument::fromJson(text->toUtf8()).array())
+        list.append(item.toString().toStdWString());
+    return ERegList::Loaded;
+}
+
+Config::ERegList Config::saveListToRegistry(ECfgGroup group, const OdString& key, const OdArray<OdString>& list,
+                                            int profile)
+{
+    QJsonArray array;
+    for (const OdString& text : list)
+        array.append(textOf(text));
+    const QString text = QString::fromUtf8(QJsonDocument(array).toJson(QJsonDocument::Compact));
+    const bool saved = profile == onlyProfile && store().set(sectionOf(group), listEntry(key), text);
+    return saved ? ERegList::Saved : ERegList::NotSaved;
+}
+
+bool Config::deleteGroup(ECfgGroup group, const OdString& key)
+{
+    return store().removeGroup(sectionOf(group), textOf(key));
+}
+
+std::unique_ptr<ConfigNode> Config::getIfProfileNode(ECfgGroup group, int profile)
+{
+    return profile == onlyProfile ? std::make_unique<ConfigNode>(group) : nullptr;
+}
+
+bool ConfigNode::createNode(const OdString& key) const
+{
+    return store().set(sectionOf(m_group), textOf(key), QString());
+}
+
+OdString Config::regProduct()
+{
+    return L"Tandolin";
 }
 
 OdString Config::fileName()

@@ -96,16 +96,35 @@ bool SettingsFile::set(const QString& section, const QString& key, const std::op
 {
     if (m_allSaved && this->value(section, key) == value)
         return true;
+    return change([&] {
+        if (value)
+            m_settings->setValue(fullKey(section, key), *value);
+        else
+            removeOnly(fullKey(section, key));
+    });
+}
+
+bool SettingsFile::removeGroup(const QString& section, const QString& key)
+{
+    refresh();
+    const QString group = fullKey(section, key);
+    const QStringList keys = m_settings->allKeys();
+    if (std::none_of(keys.begin(), keys.end(),
+                     [&group](const QString& entry) { return entry == group || entry.startsWith(group + u'/'); }))
+        return false;
+    change([&] { m_settings->remove(group); });
+    return true;
+}
+
+bool SettingsFile::change(const std::function<void()>& edit)
+{
     QDir().mkpath(QFileInfo(m_path).absolutePath());
     const bool isLocked = lock();
     const auto unlock = qScopeGuard([this] { m_lock.unlock(); });
     if (!m_allSaved || m_stamp != currentStamp())
         load();
 
-    if (value)
-        m_settings->setValue(fullKey(section, key), *value);
-    else
-        removeOnly(fullKey(section, key));
+    edit();
     // QSettings must not save on its own, from the event loop: without the lock, and maybe over a damaged file.
     QCoreApplication::removePostedEvents(m_settings.get(), QEvent::UpdateRequest);
     m_allSaved = isLocked && m_stamp && save();

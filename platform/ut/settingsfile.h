@@ -5,6 +5,7 @@
 #include <QSettings>
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -28,6 +29,8 @@ public:
     QStringList groups(const QString& section, QString key);
     /// Sets the value, or removes it when it is empty. False when that didn't reach the disk.
     bool set(const QString& section, const QString& key, const std::optional<QString>& value);
+    /// Removes all entries below the key, and the key's own; true when there were any.
+    bool removeGroup(const QString& section, const QString& key);
 
 private:
     using Stamp = std::pair<qint64, QDateTime>; // size and time
@@ -37,6 +40,8 @@ private:
     void load();
     bool isDamaged() const;
     bool setAside() const;
+    /// Runs `edit` on what the file holds now, under the lock, and saves. False when that didn't reach the disk.
+    bool change(const std::function<void()>& edit);
     void removeOnly(const QString& fullKey);
     bool save();
     Stamp currentStamp() const;

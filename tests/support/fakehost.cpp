@@ -39,10 +39,12 @@ int FakeDialog::showModal()
 
 std::unique_ptr<velm::IHostDialog> FakeGuiController::createDialog(const QUrl& page,
                                                                    velm::BaseDialogController* controller,
-                                                                   wxWindow* parent, const velm::DialogOptions&,
+                                                                   wxWindow* parent, const velm::DialogOptions& options,
                                                                    void* context)
 {
-    log += QString("createDialog %1%2%3").arg(page.toString(), parent ? " parent" : "", context ? " context" : "");
+    log += QString("createDialog %1%2%3%4")
+               .arg(page.toString(), parent ? " parent" : "", context ? " context" : "",
+                    options.modal ? "" : " not modal");
     if (dialogs.empty())
         return nullptr;
     auto dialog = std::make_unique<FakeDialog>(*controller, std::move(dialogs.front()), log);

@@ -4,9 +4,10 @@
 #include <QIdentityProxyModel>
 
 namespace velmtest {
-/// Watches a flat model whose role 0 is an object, which the model tester takes for a fault: the tester sees it through
-/// a proxy with the objects' addresses. Besides, it keeps the rows as a view knows them, from signals alone: an insert
-/// inside a reset, a wrong row or a forgotten signal makes them differ from the model's.
+/// Watches a flat model that the model tester takes for a faulty one: it counts rows whatever the parent, uses the
+/// numbers of Qt's roles anew, or has objects in role 0. The tester sees role 0 alone through a proxy, objects as their
+/// addresses. Besides, it keeps the rows as a view knows them, from signals alone: an insert inside a reset, a wrong
+/// row or a forgotten signal makes them differ from the model's.
 class RowMirror : public QIdentityProxyModel
 {
 public:
@@ -19,6 +20,11 @@ public:
             m_isResetting = false;
             m_rows = read();
         });
+        connect(&model, &QAbstractItemModel::dataChanged, this,
+                [this](const QModelIndex& first, const QModelIndex& last) {
+                    for (int row = first.row(); row <= last.row(); ++row)
+                        m_rows[row] = index(row, 0).data().toString();
+                });
         connect(&model, &QAbstractItemModel::rowsInserted, this, [this](const QModelIndex&, int first, int last) {
             m_isRight &= !m_isResetting;
             for (int row = first; row <= last; ++row)
@@ -32,8 +38,14 @@ public:
 
     bool isRight() const { return m_isRight && !m_isResetting && m_rows == read(); }
 
+    int rowCount(const QModelIndex& parent = {}) const override
+    {
+        return parent.isValid() ? 0 : QIdentityProxyModel::rowCount();
+    }
     QVariant data(const QModelIndex& index, int role) const override
     {
+        if (role != Qt::DisplayRole)
+            return {};
         const QVariant value = QIdentityProxyModel::data(index, role);
         return value.canConvert<QObject*>() ? QString::number(quintptr(value.value<QObject*>()), 16) : value;
     }

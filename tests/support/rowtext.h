@@ -10,7 +10,8 @@ inline QString rowText(const QAbstractItemModel& model, int role = Qt::DisplayRo
     for (int row = 0; row < model.rowCount(parent); ++row) {
         const QModelIndex index = model.index(row, 0, parent);
         const QString text = index.data(role).toString();
-        const QString below = rowText(model, role, index);
+        // A list may count its rows whatever the parent.
+        const QString below = model.hasChildren(index) ? rowText(model, role, index) : QString();
         rows += (text.isEmpty() ? QStringLiteral("-") : text) +
                 (below.isEmpty() ? QString() : QLatin1Char('(') + below + QLatin1Char(')'));
     }

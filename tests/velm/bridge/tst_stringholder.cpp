@@ -1,35 +1,13 @@
 #include "velm/bridge/stringholder.h"
 #include "velm/bridge/strings.h"
 
+#include "support/onewordcatalogue.h"
+
 #include <QTest>
 
-#include <wx/arrstr.h>
-#include <wx/translation.h>
+#include <optional>
 
 using namespace velm;
-
-namespace {
-/// A catalogue that knows one word.
-class OneWordLoader : public wxTranslationsLoader
-{
-public:
-    wxMsgCatalog* LoadCatalog(const wxString& domain, const wxString&) override
-    {
-        // A message catalogue of one entry: magic, revision, count, offsets of both tables; "Color", "Farbe".
-        QByteArray data;
-        for (const quint32 number : {0x950412deU, 0U, 1U, 28U, 36U, 0U, 0U, 5U, 44U, 5U, 50U})
-            data.append(reinterpret_cast<const char*>(&number), sizeof number);
-        data += QByteArray("Color\0Farbe\0", 12);
-        return wxMsgCatalog::CreateFromData(wxScopedCharBuffer::CreateNonOwned(data.constData(), data.size()), domain);
-    }
-    wxArrayString GetAvailableTranslations(const wxString&) const override
-    {
-        wxArrayString languages;
-        languages.Add("de");
-        return languages;
-    }
-};
-} // namespace
 
 class TestStringHolder : public QObject
 {
@@ -125,15 +103,11 @@ private Q_SLOTS:
         QCOMPARE(QString::fromWCharArray(Strings::kb()), QString("Kb"));
         QCOMPARE(QString::fromWCharArray(Strings::mb()), QString("Mb"));
         QCOMPARE(QString::fromWCharArray(Strings::strColor()), QString("Color"));
-        auto* translations = new wxTranslations; // given away to wx
-        translations->SetLoader(new OneWordLoader);
-        translations->SetLanguage("de");
-        QVERIFY(translations->AddCatalog("host"));
-        wxTranslations::Set(translations);
+        std::optional<velmtest::OneWordCatalogue> catalogue(std::in_place, "Color", "Farbe");
         QCOMPARE(QString::fromWCharArray(Strings::strColor()), QString("Farbe"));
         // A word that the catalogue doesn't know stays as it is.
         QCOMPARE(QString::fromWCharArray(Strings::strNone()), QString("None"));
-        wxTranslations::Set(nullptr);
+        catalogue.reset();
         QCOMPARE(QString::fromWCharArray(Strings::strColor()), QString("Color"));
     }
 };

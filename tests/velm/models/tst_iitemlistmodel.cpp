@@ -1,12 +1,10 @@
 #include "velm/models/iitemlistmodel.h"
 #include "velm/models/ilistitemlistmodel.h"
 
+#include "support/vtableslots.h"
 #include "velm/models/menumodel.h"
 
 #include <QTest>
-
-#include <cstring>
-#include <numeric>
 
 using namespace velm;
 
@@ -92,20 +90,11 @@ QStringList roles(const IItemListModel& model, int row)
     return result;
 }
 
-#ifdef __GXX_ABI_VERSION
-/// The place of a virtual operation in the table that hosts are compiled against.
-template <typename Operation>
-std::ptrdiff_t slotOf(Operation operation)
-{
-    std::ptrdiff_t parts[2];
-    static_assert(sizeof parts == sizeof operation);
-    std::memcpy(parts, &operation, sizeof operation);
-    return (parts[0] - 1) / static_cast<std::ptrdiff_t>(sizeof(void*));
-}
-
+#ifdef VELM_READS_VTABLES
 template <typename Interface>
 QList<std::ptrdiff_t> commonSlots()
 {
+    using velmtest::slotOf;
     return {slotOf(&Interface::getName),
             slotOf(&Interface::getLeftIconSource),
             slotOf(&Interface::getRightIconSource),
@@ -215,16 +204,14 @@ private Q_SLOTS:
 
     void theOperationsKeepTheirSlots()
     {
-#ifdef __GXX_ABI_VERSION
+#ifdef VELM_READS_VTABLES
+        using velmtest::slotOf;
         auto slotNumbers = commonSlots<IItemListModel>();
         slotNumbers += slotOf(static_cast<IListItem* (IListItemListModel::*)(int)>(&IListItemListModel::getItem));
         slotNumbers +=
             slotOf(static_cast<const IListItem* (IListItemListModel::*)(int) const>(&IListItemListModel::getItem));
-        QList<std::ptrdiff_t> inOrder(slotNumbers.size());
-        std::iota(inOrder.begin(), inOrder.end(), slotNumbers.first());
-        QCOMPARE(slotNumbers, inOrder);
-        inOrder.resize(14);
-        QCOMPARE(commonSlots<IListItem>(), inOrder);
+        QCOMPARE(slotNumbers, velmtest::slotsFrom(slotNumbers.first(), slotNumbers.size()));
+        QCOMPARE(commonSlots<IListItem>(), velmtest::slotsFrom(slotNumbers.first(), 14));
 #else
         QSKIP("only read where the tables are laid out so");
 #endif

@@ -97,7 +97,9 @@ bool TreeModelBase::deleteItem(const QModelIndex& parent, const QModelIndex& chi
     if (!item)
         return false;
     const TreeItemBase* parentItem = getTreeItemOrRoot(parent);
-    const int row = parentItem ? parentItem->findChild(item) : -1;
+    // An index that is up to date needs no search.
+    const bool isAtItsRow = parentItem && parentItem->child(child.row()) == item;
+    const int row = isAtItsRow ? child.row() : parentItem ? parentItem->findChild(item) : -1;
     if (row < 0) {
         warnOfMissingChild();
         return false;

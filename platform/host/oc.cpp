@@ -1,0 +1,3 @@
+#include "host/oc.h"
+
+oc::PropertyFilterFactoriesManager::~PropertyFilterFactoriesManager() = default;

@@ -1,0 +1,5 @@
+#include "velm/filter/filtertagformatter.h"
+
+namespace velm {
+FilterTagFormatter::~FilterTagFormatter() = default;
+} // namespace velm
