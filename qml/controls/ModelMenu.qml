@@ -2,6 +2,7 @@ import QtQuick
 import QtQuick.Controls
 import Tandolin.API.Controls
 import Tandolin.API.Core.Themes
+import Tandolin.API.Resources
 
 // A menu whose rows come from a MenuModel. They are made anew each time it is about to open; it closes when
 // rows come or go. The command of a row runs when the menu is closed and nothing of it is at work any more.
@@ -34,6 +35,7 @@ Menu {
             tooltip: value(3) ?? "",
             named: (value(258) ?? value(257) ?? "") !== "",
             picture: Icons.source(value(258) ?? value(257)),
+            mark: MarkPaths.nameOf(value(257)),
             enabled: (value(259) ?? true) && (type !== "submenu" || rows > 0),
             checkable: value(260) ?? false,
             checked: value(261) ?? false,

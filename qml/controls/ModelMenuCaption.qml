@@ -2,6 +2,7 @@ import QtQuick
 import QtQuick.Controls
 import QtQuick.Controls.impl
 import Tandolin.API.Core.Themes
+import Tandolin.API.Resources
 
 // Picture, text and shortcut of a ModelMenuItem.
 Item {
@@ -27,6 +28,13 @@ Item {
         fillMode: Image.PreserveAspectFit
         source: caption.control.entry.picture ?? ""
         opacity: caption.control.enabled ? 1 : 0.4
+    }
+    Mark {
+        x: caption.control.markColumn ? caption.columnWidth : 0
+        anchors.verticalCenter: parent.verticalCenter
+        visible: String(caption.control.entry.picture ?? "") === ""
+        name: caption.control.entry.mark ?? ""
+        color: caption.control.enabled ? Colors.textSecondary : Colors.textDisabled
     }
     MnemonicLabel {
         id: label

@@ -1,19 +1,27 @@
 import QtQuick
 import QtQuick.Controls
+import Tandolin
 import Tandolin.API.Controls
 import Tandolin.API.Core.Themes
 import Tandolin.API.Resources
 
 // A tree for mouse and keyboard: Up, Down, Home, End and page keys move; Right opens a row or goes to its first child, Left
 // closes it or goes to its parent; typed letters find the next shown row that begins with them. The model is any tree; it
-// keeps which rows are open (see TreeRows). Texts come from textRole; the value of iconRole is the name of a mark or the
-// source of an image.
+// keeps which rows are open (see TreeRows). Texts come from textRole; the value of iconRole is the name of a mark, with or
+// without ".svg" at its end, or the source of an image. Rows with a true value of dragRole can be dragged with the mouse,
+// out of the page as well; Escape ends that.
 FocusScope {
     id: control
 
     property var model: null
     property alias textRole: rows.textRole
     property string iconRole
+    property string tipRole
+    property string dragRole
+    // Takes the index of the row that is dragged and tells whether it may be dropped where the mouse is.
+    property var dropIsValid: index => true
+    // What stands at the right of a row; its parent has the row as "model" and "hovered".
+    property Component accessory: null
     property alias currentIndex: rows.currentIndex
     readonly property alias currentRow: rows.currentRow
     readonly property alias rows: rows
@@ -22,8 +30,11 @@ FocusScope {
 
     // The user chose the row by Enter or a double click.
     signal activated(var index)
+    signal clicked(var index)
     // The right mouse button or the menu key; the point is one of this control.
     signal contextMenuRequested(var index, point point)
+    // The row was dragged somewhere, whether it may be dropped there or not.
+    signal dropped(var index)
 
     implicitWidth: 2 * Metrics.fieldWidth
     implicitHeight: 8 * Metrics.rowHeight
@@ -79,6 +90,8 @@ FocusScope {
             goRight();
         else if (event.key === Qt.Key_Left)
             goLeft();
+        else if (event.key === Qt.Key_Escape && list.draggedRow)
+            list.draggedRow = null;
         else if ((event.key === Qt.Key_Return || event.key === Qt.Key_Enter) && currentRow >= 0)
             activated(currentIndex);
         else if (event.key === Qt.Key_Menu && currentRow >= 0)
@@ -123,6 +136,7 @@ FocusScope {
         clip: true
         focus: true
         keyNavigationEnabled: false
+        property Item draggedRow: null
         boundsBehavior: Flickable.StopAtBounds
         currentIndex: -1
         highlightFollowsCurrentItem: false
@@ -134,13 +148,16 @@ FocusScope {
 
             required property var model
             required property int index
-            readonly property string picture: control.iconRole ? String(model[control.iconRole] ?? "") : ""
+            readonly property string picture: control.iconRole ? String(model[control.iconRole] ?? "").replace(/\.svg$/, "") : ""
+            readonly property bool canDrag: control.dragRole !== "" && model[control.dragRole] === true
             readonly property bool hasMark: picture in MarkPaths.outlines
             readonly property real indent: Metrics.markSize * model.treeDepth
             readonly property real pictureRoom: picture ? Metrics.markSize + 4 : 0
 
+            objectName: control.objectName + "/" + (model[control.textRole] ?? "")
             width: ListView.view.width
             height: Metrics.rowHeight
+            rightPadding: Metrics.padding + extra.width + extra.anchors.rightMargin
             leftPadding: 4 + indent + Metrics.markSize + 2 + (String(icon.source) === "" ? pictureRoom : 0)
             spacing: 4
             // A "&" in the data is no mnemonic.
@@ -148,12 +165,49 @@ FocusScope {
             icon.source: hasMark ? "" : Icons.source(picture)
             highlighted: index === control.currentRow
             focusPolicy: Qt.NoFocus
-            onPressed: {
+            onPressed: choose()
+            onClicked: control.clicked(rows.indexAt(index))
+            onDoubleClicked: control.activated(rows.indexAt(index))
+            ListView.onPooled: {
+                if (list.draggedRow === row)
+                    list.draggedRow = null;
+            }
+
+            function choose() {
                 control.forceActiveFocus();
                 typed.stop();
                 rows.currentIndex = rows.indexAt(index);
             }
-            onDoubleClicked: control.activated(rows.indexAt(index))
+
+            ToolTip.text: hovered && control.tipRole ? model[control.tipRole] ?? "" : ""
+            ToolTip.visible: Settings.tooltips && hovered && !down && ToolTip.text !== ""
+            ToolTip.delay: Settings.tooltipDelay
+
+            // In the button's place: out of that, the list would take the mouse.
+            MouseArea {
+                property bool isValid: false
+
+                anchors.fill: parent
+                enabled: row.canDrag
+                preventStealing: true
+                cursorShape: list.draggedRow !== row ? Qt.ArrowCursor : isValid ? Qt.DragCopyCursor : Qt.ForbiddenCursor
+                drag.target: Item {}
+                drag.onActiveChanged: {
+                    if (drag.active)
+                        list.draggedRow = row;
+                }
+                onPressed: row.choose()
+                onClicked: row.clicked()
+                onDoubleClicked: row.doubleClicked()
+                onPositionChanged: isValid = list.draggedRow === row && control.dropIsValid(rows.indexAt(row.index))
+                onReleased: {
+                    if (list.draggedRow !== row)
+                        return;
+                    list.draggedRow = null;
+                    control.dropped(rows.indexAt(row.index));
+                }
+                onCanceled: list.draggedRow = null
+            }
 
             Mark {
                 x: 4 + row.indent
@@ -173,6 +227,17 @@ FocusScope {
                 visible: row.hasMark
                 name: row.hasMark ? row.picture : ""
             }
+            Loader {
+                id: extra
+
+                readonly property var model: row.model
+                readonly property bool hovered: row.hovered || row.highlighted
+
+                anchors.right: parent.right
+                anchors.rightMargin: bar.size < 1 ? bar.width : 0
+                anchors.verticalCenter: parent.verticalCenter
+                sourceComponent: control.accessory
+            }
             TapHandler {
                 acceptedButtons: Qt.RightButton
                 onPressedChanged: {
@@ -188,6 +253,8 @@ FocusScope {
             }
         }
         // qmllint enable unqualified
-        ScrollBar.vertical: ScrollBar {}
+        ScrollBar.vertical: ScrollBar {
+            id: bar
+        }
     }
 }

@@ -3,13 +3,15 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import Tandolin.API.Core.Themes
 
-// The title line of a panel, with a button for the panel's menu.
+// The title line of a panel, with a button for help and one for the panel's menu.
 RowLayout {
     id: control
 
     property string title
     // A PanelMenuModel.
     property var menuModel: null
+    // The page of the manual, if there is one.
+    property string helpKey
 
     spacing: Metrics.spacing
 
@@ -20,6 +22,10 @@ RowLayout {
         font.bold: true
         elide: Text.ElideRight
         verticalAlignment: Text.AlignVCenter
+    }
+    HelpButton {
+        objectName: "panelHelpButton"
+        key: control.helpKey
     }
     IconButton {
         id: button

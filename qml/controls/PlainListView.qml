@@ -15,7 +15,10 @@ FocusScope {
     readonly property alias count: list.count
     readonly property alias view: list
     property string textRole
+    // What stands at the right of a row; its parent has the row as "model" and "hovered".
+    property Component accessory: null
 
+    signal clicked(int row)
     // The user chose the row by Enter or a double click.
     signal activated(int row)
 
@@ -77,6 +80,8 @@ FocusScope {
         id: rows
 
         model: list.model
+        // Never made, but without it a reset goes unheard.
+        delegate: Item {}
     }
 
     Rectangle {
@@ -99,10 +104,13 @@ FocusScope {
         highlightResizeDuration: 0
         // qmllint disable unqualified
         delegate: ItemDelegate {
+            id: row
+
             required property var model
             required property int index
 
             width: ListView.view.width
+            rightPadding: Metrics.padding + extra.width + extra.anchors.rightMargin
             // A "&" in the data is no mnemonic.
             text: String(model[control.textRole || "modelData"] ?? "").replace(/&/g, "&&")
             highlighted: ListView.isCurrentItem
@@ -111,9 +119,24 @@ FocusScope {
                 control.forceActiveFocus();
                 control.currentIndex = index;
             }
+            onClicked: control.clicked(index)
             onDoubleClicked: control.activated(index)
+
+            Loader {
+                id: extra
+
+                readonly property var model: row.model
+                readonly property bool hovered: row.hovered || row.highlighted
+
+                anchors.right: parent.right
+                anchors.rightMargin: bar.size < 1 ? bar.width : 0
+                anchors.verticalCenter: parent.verticalCenter
+                sourceComponent: control.accessory
+            }
         }
         // qmllint enable unqualified
-        ScrollBar.vertical: ScrollBar {}
+        ScrollBar.vertical: ScrollBar {
+            id: bar
+        }
     }
 }

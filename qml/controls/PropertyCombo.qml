@@ -24,7 +24,8 @@ T.AbstractButton {
         return wanted && wanted.width > 0 && wanted.height > 0 ? wanted : defaultPictureSize;
     }
 
-    readonly property int currentIndex: changes >= 0 ? model?.currentIndex ?? -1 : -1
+    // An owner that shares the model says so itself.
+    property int currentIndex: changes >= 0 ? model?.currentIndex ?? -1 : -1
     readonly property var currentObject: changes >= 0 ? objectAt(currentIndex) : undefined
     readonly property string currentName: (contentItem as PropertyComboFace)?.name ?? ""
     readonly property int count: changes >= 0 ? model?.rowCount() ?? 0 : 0

@@ -52,6 +52,7 @@ QtObject {
             anchors.centerIn: parent
             font.pointSize: Metrics.smallFontSize
             text: tip.text
+            textFormat: Text.PlainText
         }
     }
 }

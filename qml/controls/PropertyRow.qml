@@ -233,7 +233,7 @@ FocusScope {
             IconButton {
                 objectName: "delete"
                 enabled: !row.entry.readOnly && row.entry.value !== ""
-                mark: "delete"
+                mark: "remove"
                 text: qsTr("Remove the image")
                 onClicked: row.list.model.deleteImage(row.index)
             }

@@ -1,42 +1,40 @@
 import QtQuick
 import QtQuick.Controls
 import Tandolin
-import Tandolin.API.Core.Themes
+import Tandolin.API.Controls
 
 // A field for a length or an angle. The controller has the value and its bounds; the field shows the value in the
 // drawing's units, with the unit beside it, and anew whenever those change. Enter and leaving the field commit a text,
 // Escape brings the value back. A text that is no value stays to be mended: it is marked, and `error` says why. Up, Down
 // and the wheel step by one unit, with Shift by ten.
-TextField {
+MarkedField {
     id: control
 
     // The field may be there before it has one.
     property UnitsInputController controller: null
     // A button for the host's calculator.
     property bool hasCalculator: false
-    // Empty while the text is a value.
-    readonly property alias error: inner.error
     // Whether the text differs from that of the value.
     readonly property bool edited: text !== inner.shown
 
     // False when the text is no value. Text that the user didn't change leaves the value with all its digits.
     function commit(): bool {
         if (!edited || !controller) {
-            inner.error = "";
+            error = "";
             return true;
         }
         const value = controller.parseValue(text);
         if (isNaN(value)) {
             const sample = inner.shown || controller.formatValue(0);
             if (text.trim() === "")
-                inner.error = qsTr("A value is needed, such as %1.").arg(sample);
+                error = qsTr("A value is needed, such as %1.").arg(sample);
             else if (controller.inputType === 0)
-                inner.error = qsTr("This is no length. A length is written as %1.").arg(sample);
+                error = qsTr("This is no length. A length is written as %1.").arg(sample);
             else
-                inner.error = qsTr("This is no angle. An angle is written as %1.").arg(sample);
+                error = qsTr("This is no angle. An angle is written as %1.").arg(sample);
             return false;
         }
-        inner.error = "";
+        error = "";
         controller.value = value;
         restore();
         return true;
@@ -44,7 +42,7 @@ TextField {
 
     // Shows the value in the place of what was typed.
     function restore() {
-        inner.error = "";
+        error = "";
         inner.read();
         text = inner.shown;
         if (activeFocus)
@@ -69,12 +67,16 @@ TextField {
             selectAll();
     }
 
-    rightPadding: Metrics.padding + (unit.visible ? unit.width + 4 : 0) + (calculator.visible ? calculator.width : 0)
-    Accessible.description: error
+    endWidth: calculator.visible ? calculator.width : 0
+    unit: {
+        // Read to be told of: the controller doesn't tell.
+        const told = [Settings.linearUnitString, Settings.angularUnitString];
+        return controller?.showUnitLabel ? controller.unitString : "";
+    }
 
     onControllerChanged: restore()
     Component.onCompleted: restore()
-    onTextEdited: inner.error = ""
+    onTextEdited: error = ""
     onActiveFocusChanged: {
         if (activeFocus)
             selectAll();
@@ -89,13 +91,6 @@ TextField {
     }
     Keys.onUpPressed: event => stepBy(event.modifiers & Qt.ShiftModifier ? 10 : 1)
     Keys.onDownPressed: event => stepBy(event.modifiers & Qt.ShiftModifier ? -10 : -1)
-
-    HoverHandler {
-        id: hover
-    }
-    ToolTip.text: error
-    ToolTip.visible: error !== "" && (activeFocus || hover.hovered)
-    ToolTip.delay: 0
 
     WheelHandler {
         property real turned: 0
@@ -114,7 +109,6 @@ TextField {
     QtObject {
         id: inner
 
-        property string error
         // The value that the text was made of, and that text.
         property real value: 0
         property string shown
@@ -162,30 +156,6 @@ TextField {
         }
     }
 
-    Rectangle {
-        objectName: "errorFrame"
-        anchors.fill: parent
-        visible: control.error !== ""
-        color: "transparent"
-        radius: Metrics.radius
-        border.width: 2
-        border.color: Colors.error
-    }
-    Label {
-        id: unit
-
-        objectName: "unit"
-        anchors.right: calculator.visible ? calculator.left : parent.right
-        anchors.rightMargin: calculator.visible ? 4 : Metrics.padding
-        anchors.verticalCenter: parent.verticalCenter
-        visible: text !== ""
-        color: Colors.textSecondary
-        text: {
-            // Read to be told of: the controller doesn't tell.
-            const told = [Settings.linearUnitString, Settings.angularUnitString];
-            return control.controller?.showUnitLabel ? control.controller.unitString : "";
-        }
-    }
     IconButton {
         id: calculator
 

@@ -1,6 +1,7 @@
 #include "treerows.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace velmqml {
 namespace {
@@ -79,6 +80,14 @@ void TreeRows::endReset()
     if (m_hadCurrent && !m_current.isValid())
         Q_EMIT currentIndexChanged();
     noteCurrent();
+    fetchOpen();
+}
+
+void TreeRows::fetchOpen()
+{
+    for (const QPersistentModelIndex& index : std::exchange(m_unfetched, {}))
+        if (index.isValid() && m_source->canFetchMore(index))
+            m_source->fetchMore(index);
 }
 
 void TreeRows::load()
@@ -86,8 +95,10 @@ void TreeRows::load()
     m_root = m_source ? makeBranch(QModelIndex()) : std::make_unique<OpenBranch>(0, 0, OpenBranch::Children());
 }
 
-std::unique_ptr<OpenBranch> TreeRows::makeBranch(const QModelIndex& index) const
+std::unique_ptr<OpenBranch> TreeRows::makeBranch(const QModelIndex& index)
 {
+    if (index.isValid() && m_source->canFetchMore(index))
+        m_unfetched.append(index);
     const int count = m_source->rowCount(index);
     OpenBranch::Children open;
     for (int row = 0; row < count; ++row) {
@@ -185,6 +196,25 @@ void TreeRows::setOpen(int row, bool open)
     apply(index, open);
 }
 
+void TreeRows::openAll()
+{
+    if (m_source)
+        openBelow(QModelIndex());
+}
+
+void TreeRows::openBelow(const QModelIndex& parent)
+{
+    const int count = m_source->rowCount(parent);
+    for (int row = 0; row < count; ++row) {
+        const QModelIndex index = m_source->index(row, 0, parent);
+        if (!m_source->hasChildren(index))
+            continue;
+        m_source->setData(index, true, openRole);
+        apply(index, true);
+        openBelow(index);
+    }
+}
+
 void TreeRows::apply(const QModelIndex& index, bool open)
 {
     if (m_resetting)
@@ -204,6 +234,7 @@ void TreeRows::apply(const QModelIndex& index, bool open)
         parent->open(std::move(made));
         if (total > 0)
             endInsertRows();
+        fetchOpen();
     } else {
         const int total = branch->total();
         if (total > 0)

@@ -53,6 +53,7 @@ public:
     Q_INVOKABLE int rowOf(const QModelIndex& index) const;
     /// A row without children can't be opened.
     Q_INVOKABLE void setOpen(int row, bool open);
+    Q_INVOKABLE void openAll();
     /// The first row from this one on, round the end, whose text begins with the letters; -1 when none does.
     Q_INVOKABLE int find(const QString& letters, int first) const;
 
@@ -68,13 +69,16 @@ private:
     void setCurrentVariant(const QVariant& index) { setCurrentIndex(index.toModelIndex()); }
     void connectSource();
     void load();
-    std::unique_ptr<OpenBranch> makeBranch(const QModelIndex& index) const;
+    /// Fetches what is below open rows and isn't there yet.
+    void fetchOpen();
+    std::unique_ptr<OpenBranch> makeBranch(const QModelIndex& index);
     /// Null when the index or a row above it isn't open.
     OpenBranch* findBranch(const QModelIndex& index) const;
     QModelIndex toIndex(const OpenBranch& branch) const;
     bool isOpen(const QModelIndex& index) const;
     void apply(const QModelIndex& index, bool open);
     void openParents(const QModelIndex& index);
+    void openBelow(const QModelIndex& parent);
     void noteCurrent();
     void signalBranch(const QModelIndex& index);
 
@@ -89,6 +93,7 @@ private:
     QPointer<QAbstractItemModel> m_source;
     std::unique_ptr<OpenBranch> m_root;
     QString m_textRole = QStringLiteral("display");
+    QList<QPersistentModelIndex> m_unfetched; // open branches
     QPersistentModelIndex m_current;
     int m_currentRow = -1;
     bool m_resetting = false;

@@ -21,6 +21,7 @@ T.ToolTip {
     contentItem: Label {
         text: control.text
         font: control.font
+        textFormat: Text.PlainText
         wrapMode: Text.Wrap
     }
     background: PopupSurface {}

@@ -6,12 +6,24 @@
 #include "velm/dialogs/addrenamedialogcontroller.h"
 #include "velm/dialogs/basedialogcontroller.h"
 #include "velm/dialogs/basepopupcontroller.h"
+#include "velm/dialogs/commandcontextdialogcontroller.h"
 #include "velm/dialogs/namedialogcontroller.h"
 #include "velm/dialogs/transientpopupcore.h"
 #include "velm/drawingprops/arrowheadmodel.h"
 #include "velm/drawingprops/colormodel.h"
 #include "velm/drawingprops/linetypemodel.h"
 #include "velm/drawingprops/lineweightmodel.h"
+#include "velm/filter/abstractfilterpropertiesmodel.h"
+#include "velm/filter/componenturlwithsettings.h"
+#include "velm/filter/filterlistmodel.h"
+#include "velm/filter/filtermanagerbuttonscontroller.h"
+#include "velm/filter/filteroperatorsmodel.h"
+#include "velm/filter/filterpopupcontroller.h"
+#include "velm/filter/filtertagsconjunctionmodel.h"
+#include "velm/filter/filtertagsmodel.h"
+#include "velm/filter/loadfiltercontroller.h"
+#include "velm/filter/pinnedpropertiesmodel.h"
+#include "velm/services/webdocutils.h"
 #include "velm/units/fixingdoublevalidator.h"
 #include "velm/units/fixingintvalidator.h"
 #include "velm/units/qtfontconfig.h"
@@ -54,6 +66,14 @@ struct BasePopupControllerType
     QML_FOREIGN(velm::BasePopupController)
     QML_NAMED_ELEMENT(BasePopupController)
     QML_UNCREATABLE("A popup controller comes from the host.")
+};
+
+struct CommandContextDialogControllerType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::CommandContextDialogController)
+    QML_NAMED_ELEMENT(CommandContextDialogController)
+    QML_UNCREATABLE("A dialog controller comes from the host.")
 };
 
 struct NameDialogControllerType
@@ -171,6 +191,82 @@ struct LineWeightObjectType
     QML_UNCREATABLE("A row comes from its model.")
 };
 
+struct AbstractFilterPropertiesModelType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::AbstractFilterPropertiesModel)
+    QML_NAMED_ELEMENT(AbstractFilterPropertiesModel)
+    QML_UNCREATABLE("The properties come from the host.")
+};
+
+struct ComponentUrlWithSettingsType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::ComponentUrlWithSettings)
+    QML_VALUE_TYPE(componentUrlWithSettings)
+};
+
+struct FilterListModelType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::FilterListModel)
+    QML_NAMED_ELEMENT(FilterListModel)
+    QML_UNCREATABLE("The names come from a LoadFilterController.")
+};
+
+struct FilterManagerButtonsControllerType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::FilterManagerButtonsController)
+    QML_NAMED_ELEMENT(FilterManagerButtonsController)
+};
+
+struct FilterOperatorsModelType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::FilterOperatorsModel)
+    QML_NAMED_ELEMENT(FilterOperatorsModel)
+};
+
+struct FilterPopupControllerType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::FilterPopupController)
+    QML_NAMED_ELEMENT(FilterPopupController)
+};
+
+struct FilterTagsConjunctionModelType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::FilterTagsConjunctionModel)
+    QML_NAMED_ELEMENT(FilterTagsConjunctionModel)
+    QML_UNCREATABLE("A conjunction comes from a FilterTagsModel.")
+};
+
+struct FilterTagsModelType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::FilterTagsModel)
+    QML_NAMED_ELEMENT(FilterTagsModel)
+    QML_UNCREATABLE("The filter comes from the host.")
+};
+
+struct LoadFilterControllerType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::LoadFilterController)
+    QML_NAMED_ELEMENT(LoadFilterController)
+    QML_UNCREATABLE("It comes with a FilterManagerButtonsController.")
+};
+
+struct PinnedPropertiesModelType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::PinnedPropertiesModel)
+    QML_NAMED_ELEMENT(PinnedPropertiesModel)
+    QML_UNCREATABLE("The favourites come with a FilterPopupController.")
+};
+
 struct QtControllerWrapperType
 {
     Q_GADGET
@@ -192,5 +288,12 @@ struct UrlAndControllerType
     Q_GADGET
     QML_FOREIGN(velm::UrlAndController)
     QML_VALUE_TYPE(urlAndController)
+};
+
+struct WebDocUtilsType
+{
+    Q_GADGET
+    QML_FOREIGN(velm::WebDocUtils)
+    QML_NAMED_ELEMENT(WebDocUtils)
 };
 } // namespace velmqml

@@ -11,13 +11,23 @@ namespace {
 class NameTree : public TreeModel<QString>
 {
 public:
+    static constexpr int DragRole = Qt::UserRole;
+
     using TreeModel::TreeModel;
+    QHash<int, QByteArray> roleNames() const override
+    {
+        QHash<int, QByteArray> names = TreeModel::roleNames();
+        names.insert(DragRole, "drag");
+        return names;
+    }
     int columnCount(const QModelIndex& = {}) const override { return 1; }
     QVariant dataImpl(const QModelIndex& index, int role) const override
     {
         const QString* name = getData(index);
         if (!name)
             return {};
+        if (role == DragRole)
+            return name->startsWith(QLatin1Char('B'));
         if (role == Qt::DecorationRole)
             return name->startsWith(QLatin1Char('B')) ? QStringLiteral("folder") : QString();
         return role == Qt::DisplayRole ? QVariant(*name) : QVariant();
@@ -51,8 +61,9 @@ public:
 private:
     QObject* load(QAbstractItemModel& model)
     {
-        return m_engine.load("ModelTreeView { height: 100; implicitHeight: 100; iconRole: 'decoration' }",
-                             {{QStringLiteral("model"), QVariant::fromValue<QObject*>(&model)}});
+        return m_engine.load(
+            "ModelTreeView { height: 100; implicitHeight: 100; iconRole: 'decoration'; dragRole: 'drag' }",
+            {{QStringLiteral("model"), QVariant::fromValue<QObject*>(&model)}});
     }
 
     PageEngine m_engine;
@@ -68,6 +79,7 @@ private Q_SLOTS:
     void keysWalkTheTree_data();
     void keysWalkTheTree();
     void theMouseOpensAndActivates();
+    void aRowIsDraggedOutOfTheTree();
     void theMenuIsAskedForAtItsRow();
     void openRowsOutliveResetsAndPages();
     void theCurrentRowComesIntoView();
@@ -144,6 +156,45 @@ void TestControlsTree::theMouseOpensAndActivates()
     QTRY_COMPARE(view.count(), 3);
     QVERIFY(!tree.wantsToBeExpanded(tree.index(0, 0)));
     QVERIFY(activated.isEmpty());
+}
+
+void TestControlsTree::aRowIsDraggedOutOfTheTree()
+{
+    NameTree tree;
+    fill(tree);
+    ShownTree view(tree);
+    QVERIFY(view.shown().isReady());
+    QSignalSpy dropped(view.view(), SIGNAL(dropped(QVariant)));
+    QSignalSpy activated(view.view(), SIGNAL(activated(QVariant)));
+    const auto drag = [&](int row, const std::function<void()>& onTheWay = {}) {
+        QTest::mousePress(view.shown().window(), Qt::LeftButton, {}, view.point(row));
+        for (const int way : {30, 60})
+            QTest::mouseMove(view.shown().window(), view.point(row) + QPoint(0, way));
+        if (onTheWay)
+            onTheWay();
+        QTest::mouseMove(view.shown().window(), QPoint(480, 380));
+        QTest::mouseRelease(view.shown().window(), Qt::LeftButton, {}, QPoint(480, 380));
+    };
+    drag(1);
+    QCOMPARE(dropped.count(), 1);
+    QCOMPARE(dropped.takeFirst().first().value<QModelIndex>(), tree.index(1, 0));
+    QCOMPARE(view.current(), QStringLiteral("Beta"));
+    drag(0); // which isn't for it
+    QVERIFY(dropped.isEmpty());
+    drag(1, [&] { view.shown().press(Qt::Key_Escape); });
+    QVERIFY(dropped.isEmpty());
+    // Such a row is a row all the same.
+    QVERIFY(activated.isEmpty());
+    QTest::mouseDClick(view.shown().window(), Qt::LeftButton, {}, view.point(1));
+    QCOMPARE(activated.count(), 1);
+    QTest::mouseClick(view.shown().window(), Qt::LeftButton, {}, view.point(1, 13));
+    QTRY_COMPARE(view.count(), 4);
+    QTest::mouseClick(view.shown().window(), Qt::LeftButton, {}, view.point(1, 13));
+    QTRY_COMPARE(view.count(), 3);
+
+    drag(1, [&] { tree.deleteItem(QModelIndex(), 1); });
+    QCOMPARE(view.count(), 2);
+    QVERIFY(dropped.isEmpty());
 }
 
 void TestControlsTree::theMenuIsAskedForAtItsRow()
