@@ -28,6 +28,7 @@ void add(const Comparison& comparison, const Workload& ours, const Workload& yar
         benchmark::RegisterBenchmark((comparison.name + suffix).c_str(), workload)
             ->Iterations(1)
             ->Repetitions(repetitions)
+            ->MeasureProcessCPUTime()
             ->Unit(benchmark::kMillisecond);
 }
 

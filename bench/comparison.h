@@ -26,5 +26,8 @@ void runComparisons(int argc, char** argv);
 
 void addTreeModels();
 void addListModels();
+void addSheetSet();
+void addFilters();
 void addTables();
+void addFilterTree();
 } // namespace velmbench

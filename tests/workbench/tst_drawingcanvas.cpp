@@ -244,7 +244,7 @@ void DrawingCanvasTest::selectedEntitiesAreLitUpAndZoomedTo()
     QVERIFY(m_canvas->zoomTo({lines[1], lines[2]}));
     QVERIFY(isNear(m_canvas->view().center.y, 45.0, 0.01));
     QVERIFY(!m_canvas->zoomTo({lines[0]}));
-    QVERIFY(!m_canvas->zoomTo({}));
+    QVERIFY(!m_canvas->zoomTo(std::vector<OdDbObjectId>()));
 }
 
 void DrawingCanvasTest::zoomKeepsThePointUnderTheCursor_data()

@@ -1,3 +1,4 @@
+#include "od/oddbdimension.h"
 #include "ut/databaseutils.h"
 #include "workbench/dxftexts.h"
 
@@ -16,6 +17,8 @@ private Q_SLOTS:
     void entitiesKeepTheirGeometry();
     void mirroredEntitiesAreMirroredBack();
     void attributesAreRead();
+    void transparenciesAreRead();
+    void leadersInARowKeepTheirOwnStyles();
     void blocksHoldTheirEntities();
     void layoutsShowTheirBlocks();
     void dimStylesHaveTheirValues();
@@ -178,6 +181,33 @@ void DxfReaderTest::attributesAreRead()
     QCOMPARE(byBlock->lineWeight(), int(OdDb::kLnWtByBlock));
     QVERIFY(entity<OdDbPoint>(result, 3)->color() == OdCmColor::fromRGB(0x12, 0x34, 0x56));
     QVERIFY(entity<OdDbPoint>(result, 4)->color().isByLayer());
+}
+
+void DxfReaderTest::transparenciesAreRead()
+{
+    const DxfReadResult result = readText(
+        drawing("0 POINT|8 0|440 33554559|0 POINT|8 0|0 POINT|8 0|440 16777216|0 POINT|8 0|440 33554432"
+                "|0 POINT|8 0|440 -5|0 POLYLINE|8 0|66 1|440 33554610|0 VERTEX|8 0|10 0|20 0|440 33554559"
+                "|0 VERTEX|8 0|10 1|20 1|0 SEQEND|0 LINE|8 0|440 33554687|0 HATCH|440 33554559|0 CIRCLE|40 1"));
+    QCOMPARE(qt(result.error), QString());
+    QStringList transparencies;
+    for (const OdDbObjectId& id : result.database->modelSpace()->entities())
+        transparencies << QString::number(id.open<OdDbEntity>()->transparency());
+    // Above 90 percent there is none.
+    QCOMPARE(transparencies.join(' '), QString("50 -1 -2 90 -1 30 0 -1"));
+}
+
+void DxfReaderTest::leadersInARowKeepTheirOwnStyles()
+{
+    const DxfReadResult result =
+        readText(drawing("0 LEADER|3 Dots|10 0|20 0|10 1|20 0|0 LEADER|3 Doors|10 0|20 0|10 1|20 0", {},
+                         "0 TABLE|2 DIMSTYLE|0 DIMSTYLE|2 Dots|0 DIMSTYLE|2 Doors|0 ENDTAB"));
+    QCOMPARE(qt(result.error), QString());
+    const auto styleOf = [&](unsigned int index) {
+        return entity<OdDbLeader>(result, index)->dimensionStyle.open<OdDbDimStyleTableRecord>()->getName();
+    };
+    QCOMPARE(qt(styleOf(0)), QString("Dots"));
+    QCOMPARE(qt(styleOf(1)), QString("Doors"));
 }
 
 void DxfReaderTest::blocksHoldTheirEntities()

@@ -2,10 +2,6 @@
 
 #include "panels/entitytablemodel.h"
 
-#include <QProcess>
-
-#include <cstdio>
-
 using namespace workbench;
 using M = EntityTableModel;
 
@@ -126,20 +122,7 @@ void TablesTest::theProgramStartsWithTheSameColumns()
 
 int main(int argc, char** argv)
 {
-    if (argc > 1)
-        return runInWorkbench<TablesTest>(argc, argv);
-    const QTemporaryDir settings;
-    qputenv("TANDOLIN_CONFIG", QFile::encodeName(settings.filePath("settings.ini")));
-    for (const char* test : {"aUserArrangesAndSelects", "theProgramStartsWithTheSameColumns"}) {
-        QProcess program;
-        program.setProcessChannelMode(QProcess::ForwardedChannels);
-        program.start(QString::fromLocal8Bit(argv[0]), {QString::fromLatin1(test)});
-        if (!program.waitForFinished(-1) || program.exitStatus() != QProcess::NormalExit || program.exitCode() != 0)
-            return 1;
-        // The short second run ends with memory of the graphics driver, which is unloaded by then: no suppression fits.
-        qputenv("ASAN_OPTIONS", "detect_leaks=0");
-    }
-    return 0;
+    return runEachInAProgram<TablesTest>(argc, argv, {"aUserArrangesAndSelects", "theProgramStartsWithTheSameColumns"});
 }
 
 #include "tst_tables.moc"

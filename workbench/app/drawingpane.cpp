@@ -1,5 +1,6 @@
 #include "app/drawingpane.h"
 
+#include "host/contextarea.h"
 #include "host/pagepanel.h"
 #include "velm/bridge/externalfunctions.h"
 
@@ -18,6 +19,7 @@ DrawingPane::DrawingPane(wxWindow* parent, PageGroup& pages, OdApDocManager& doc
 {
     auto* bar = new PagePanel(this, pages, velm::getUIFullUrl("Workbench/CurrentPropertiesBar.qml"), properties);
     auto* tabs = new PagePanel(this, pages, velm::getUIFullUrl("Workbench/DrawingTabs.qml"), drawings);
+    m_contextArea = new ContextArea(this, pages);
     m_canvas = new DrawingCanvas(this);
     m_views.emplace(documents, *m_canvas);
     bar->SetMinSize(wxSize(-1, FromDIP(barHeight)));
@@ -25,7 +27,10 @@ DrawingPane::DrawingPane(wxWindow* parent, PageGroup& pages, OdApDocManager& doc
     auto* sizer = new wxBoxSizer(wxVERTICAL);
     sizer->Add(bar, wxSizerFlags().Expand());
     sizer->Add(tabs, wxSizerFlags().Expand());
-    sizer->Add(m_canvas, wxSizerFlags(1).Expand());
+    auto* drawing = new wxBoxSizer(wxHORIZONTAL);
+    drawing->Add(m_contextArea, wxSizerFlags().Expand());
+    drawing->Add(m_canvas, wxSizerFlags(1).Expand());
+    sizer->Add(drawing, wxSizerFlags(1).Expand());
     SetSizer(sizer);
 }
 } // namespace workbench

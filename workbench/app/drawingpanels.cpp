@@ -5,7 +5,7 @@
 namespace workbench {
 DrawingPanels::DrawingPanels(OdApDocManager& documents, Selection& selection)
     : structure(documents, selection), branch(*structure.tree(), selection), properties(documents),
-      entities(documents, selection), m_selection(selection)
+      entities(documents, selection), filter(documents, selection), health(documents, selection), m_selection(selection)
 {
     connect(&structure, &StructureController::currentIndexChanged, this, &DrawingPanels::showProperties);
     connect(&selection, &Selection::changed, this, &DrawingPanels::showProperties);
@@ -22,5 +22,7 @@ void DrawingPanels::refresh()
     structure.refresh();
     properties.refresh();
     entities.refresh();
+    filter.refresh();
+    health.refresh();
 }
 } // namespace workbench

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "filter/filtercontroller.h"
+#include "health/healthcontroller.h"
 #include "panels/branchcontroller.h"
 #include "panels/entitiescontroller.h"
 #include "panels/propertiescontroller.h"
@@ -18,6 +20,8 @@ public:
     BranchController branch;
     PropertiesController properties;
     EntitiesController entities;
+    FilterController filter;
+    HealthController health;
 
     /// To call after a change of the drawing.
     void refresh();

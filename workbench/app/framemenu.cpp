@@ -115,10 +115,14 @@ std::vector<Action> frameActions(MainFrame& frame)
          "theme"},
         line,
         {_("&View"), _("&Rebuild engine"), "Ctrl+R", _("Load all pages into a new engine"), command("REBUILD"), {}, {}},
+        {_("D&raw"), _("&Line"), {}, _("Draw lines from point to point"), command("LINE"), {}, hasDrawing, "line"},
+        {_("D&raw"), _("&Circle"), {}, _("Draw a circle about a point"), command("CIRCLE"), {}, hasDrawing, "circle"},
         panel(_("&Layers"), _("Layers"), "layers"),
         panel(_("&Structure"), _("Structure"), "structure"),
         panel(_("&Properties"), _("Properties"), "properties"),
         panel(_("&Entities"), _("Entities"), "table"),
+        panel(_("&Health"), _("Health"), "health"),
+        panel(_("S&heet sets"), _("Sheet Sets"), {}),
         {_("&Drawing"),
          _("&Units..."),
          {},
@@ -164,6 +168,7 @@ std::vector<Action> frameActions(MainFrame& frame)
          {},
          [&frame] { return frame.layers().canRename(); },
          "rename"},
+        {_("&Help"), _("&Manual"), {}, _("Open the manual in the browser"), [] { velm::openWebDoc("index"); }, {}, {}},
         {_("&Help"), _("&About"), {}, _("What this program is"), about, {}, {}, "help"},
     };
 }

@@ -1,14 +1,20 @@
 #include "app/hostservices.h"
 
 #include "command/commandline.h"
+#include "filter/entityfilterfactories.h"
+#include "filter/entityfilterproperties.h"
+#include "filter/filterstore.h"
 #include "od/oddbdatabase.h"
 #include "ut/environment.h"
 #include "velm/bridge/conversions.h"
 #include "velm/bridge/engine.h"
 
 #include <QFileInfo>
+#include <QStandardPaths>
 
 #include <wx/utils.h>
+
+#include <utility>
 
 namespace workbench {
 namespace {
@@ -19,10 +25,45 @@ QString documentationFile(const QString& key)
 {
     return velm::toQt(ut::getExecutableFolder(true)) + "docs/" + key + ".html";
 }
+
+QString filterFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/Tandolin/Filters");
+}
 } // namespace
 
 HostServices::HostServices(PageGroup& pages) : m_gui(pages), m_dialogs(pages)
-{}
+{
+    velm::IEntityFilterPropertiesModel::setCreateFunc([](const velm::IEntityFilterPropertiesModel::Manager& manager) {
+        const auto factories = std::dynamic_pointer_cast<EntityFilterFactories>(manager);
+        return factories ? std::make_shared<EntityFilterProperties>(factories) : nullptr;
+    });
+    velm::IFilterManagerFileIO::setCreateFileIOFunc([this](const oc::PropertyFilterFactoriesManager&) {
+        return std::make_unique<FilterStore>(filterFolder(), [this](const QString& message) { tell(message); });
+    });
+}
+
+HostServices::~HostServices()
+{
+    velm::IEntityFilterPropertiesModel::setCreateFunc({});
+    velm::IFilterManagerFileIO::setCreateFileIOFunc({});
+}
+
+void HostServices::setCommandLine(CommandLine* commandLine)
+{
+    m_commandLine = commandLine;
+    if (m_commandLine)
+        for (const QString& message : std::exchange(m_untold, {}))
+            tell(message);
+}
+
+void HostServices::tell(const QString& message)
+{
+    if (m_commandLine)
+        m_commandLine->log(velm::wxFromQt(message));
+    else
+        m_untold.append(message);
+}
 
 velm::IUnitFormatter* HostServices::formatterFor(double value)
 {

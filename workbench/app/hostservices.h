@@ -10,11 +10,13 @@ namespace workbench {
 class CommandLine;
 class PageGroup;
 
-/// What the host lends to velm: its services, and the callbacks by which velm finds them.
+/// What the host lends to velm: its services, the callbacks by which velm finds them, and the functions that make what a
+/// filter of entities works on.
 class HostServices
 {
 public:
     explicit HostServices(PageGroup& pages);
+    ~HostServices();
     HostServices(const HostServices&) = delete;
     HostServices& operator=(const HostServices&) = delete;
 
@@ -22,12 +24,14 @@ public:
     GuiController& gui() { return m_gui; }
     DialogFactory& dialogs() { return m_dialogs; }
     /// Where commands of pages go; not owned; null takes none.
-    void setCommandLine(CommandLine* commandLine) { m_commandLine = commandLine; }
+    void setCommandLine(CommandLine* commandLine);
 
     /// All callbacks. They must not outlive this object.
     velm::ExternalFunctions functions();
 
 private:
+    /// Writes a line above the command line, as soon as there is one.
+    void tell(const QString& message);
     velm::IUnitFormatter* formatterFor(double value);
 
     OdApDocManager m_documents;
@@ -35,5 +39,6 @@ private:
     DialogFactory m_dialogs;
     UnitFormatter m_formatter;
     CommandLine* m_commandLine = nullptr; // not owned
+    QStringList m_untold;
 };
 } // namespace workbench

@@ -1,17 +1,22 @@
 #include "app/mainframe.h"
 
 #include "app/canvastip.h"
+#include "app/drawcommands.h"
 #include "app/drawingcommands.h"
 #include "app/drawingpane.h"
 #include "app/framecommands.h"
+#include "app/framegeometry.h"
 #include "app/framemenu.h"
 #include "app/frametoolbar.h"
 #include "app/hostservices.h"
 #include "app/layercommands.h"
 #include "app/secondpane.h"
+#include "app/sheetsets.h"
 #include "app/velmsession.h"
 #include "command/commandline.h"
 #include "drawing/drawingcanvas.h"
+#include "health/healthcommands.h"
+#include "host/contextarea.h"
 #include "host/pagedialog.h"
 #include "host/pagegroup.h"
 #include "host/pagepanel.h"
@@ -21,7 +26,6 @@
 #include "velm/bridge/conversions.h"
 #include "velm/units/settings.h"
 
-#include <wx/display.h>
 #include <wx/filedlg.h>
 #include <wx/filename.h>
 #include <wx/notebook.h>
@@ -36,8 +40,6 @@ constexpr int sideWidth = 380;
 constexpr int lowerHeight = 130;
 constexpr int lowerPanelsHeight = 290;
 constexpr int tablesHeight = 270;
-const OdString rectKey = L"MainWindow/Rectangle";
-const OdString maximizedKey = L"MainWindow/Maximized";
 } // namespace
 
 MainFrame::MainFrame(VelmSession& session, HostServices& services, PageGroup& pages)
@@ -46,13 +48,15 @@ MainFrame::MainFrame(VelmSession& session, HostServices& services, PageGroup& pa
       m_selection(services.documents()), m_layers(services.documents(), services.dialogs()),
       m_dimStyles(services.documents(), services.dialogs()), m_drawingInfo(services.documents()),
       m_images(services.documents()), m_drawingPanels(services.documents(), m_selection),
-      m_openDrawings(services.documents()),
+      m_sheetSets(services.documents()), m_openDrawings(services.documents()),
       m_currentProperties(services.documents(), m_selection, services.gui(), services.dialogs()),
-      m_canvasMenu(services.documents(), m_selection), m_contextMenu(pages, *this, m_canvasMenu)
+      m_commandRun(services.documents(), services.gui()), m_canvasMenu(services.documents(), m_selection),
+      m_contextMenu(pages, *this, m_canvasMenu)
 {
     build();
     addCommands();
     connectCanvas();
+    connectCommandRun(m_commands, *this);
     m_services.setCommandLine(m_commandLine);
     m_services.documents().addReactor(this);
     m_documents.log = [this](const wxString& line) { m_commandLine->log(line); };
@@ -60,6 +64,10 @@ MainFrame::MainFrame(VelmSession& session, HostServices& services, PageGroup& pa
     m_dimStyles.onEdited = [this] { drawingChanged(); };
     properties().onEdited = [this] { drawingChanged(); };
     m_currentProperties.onEdited = [this] { drawingChanged(); };
+    health().onFixed = [this](const QString& what) {
+        drawingChanged();
+        m_commandLine->log(velm::wxFromQt(what));
+    };
     m_currentProperties.hasDialog = [this] { return m_pages.modals().top() != nullptr; };
     m_openDrawings.onChosen = [this] { m_commandLine->input()->SetFocus(); };
     structure().onBranchWanted = [this](const QModelIndex& index) {
@@ -90,7 +98,7 @@ MainFrame::MainFrame(VelmSession& session, HostServices& services, PageGroup& pa
     };
     Bind(wxEVT_MOVE, moved);
     Bind(wxEVT_SIZE, moved);
-    restoreGeometry();
+    restoreGeometry(*this);
     applyColours();
     documentBecameCurrent(nullptr);
     if (!ut::Config::isWritable())
@@ -103,6 +111,7 @@ MainFrame::~MainFrame()
     m_services.setCommandLine(nullptr);
     m_session.onThemeChanged = nullptr;
     m_session.onRebuilt = nullptr;
+    m_commandRun.stop();
     // A page that goes may still tell something.
     properties().onEdited = nullptr;
     m_currentProperties.onEdited = nullptr;
@@ -133,7 +142,9 @@ void MainFrame::build()
     addPanel(m_panels, "Workbench/LayersPanel.qml", &m_layers, _("Layers"));
     addPanel(m_panels, "Workbench/StructurePanel.qml", &structure(), _("Structure"));
     addPanel(m_panels, "Workbench/BranchPanel.qml", &branch(), _("Branch"));
+    addPanel(m_panels, "Workbench/FilterPanel.qml", &filter(), _("Filter"));
     addPanel(m_panels, "Workbench/UnitsPanel.qml", &m_units, _("Units"));
+    addPanel(m_panels, "Workbench/SheetSetPanel.qml", &m_sheetSets, _("Sheet Sets"));
     m_lowerPanels = new wxNotebook(m_panelSplitter, wxID_ANY);
     addPanel(m_lowerPanels, "Workbench/PropertiesPanel.qml", &properties(), _("Properties"));
     addPanel(m_lowerPanels, "Workbench/DrawingPanel.qml", &m_drawingInfo, _("Drawing"));
@@ -143,6 +154,7 @@ void MainFrame::build()
     m_tablePanels = new wxNotebook(m_tableSplitter, wxID_ANY);
     addPanel(m_tablePanels, "Workbench/EntitiesPanel.qml", &entities(), _("Entities"));
     addPanel(m_tablePanels, "Workbench/DimStylesPanel.qml", &m_dimStyles, _("Dimension Styles"));
+    addPanel(m_tablePanels, "Workbench/HealthPanel.qml", &health(), _("Health"));
     addPanel(m_tablePanels, "Workbench/PartsPanel.qml", &m_parts, _("Million Rows"));
     addPanel(m_tablePanels, "Workbench/ImagesPanel.qml", &m_images, _("Images"));
     addPanel(m_tablePanels, "Workbench/ToolIconsPanel.qml", &m_images, _("Tool Icons"));
@@ -164,6 +176,8 @@ void MainFrame::build()
     addMenus(*this, actions);
     m_toolBar = new FrameToolBar(*this, actions);
     SetToolBar(m_toolBar);
+    m_services.gui().setContextArea(&pane->contextArea());
+    pane->contextArea().setAcceleratorTable(shortcuts(*GetMenuBar()));
     for (PagePanel* page : m_pages.pages())
         page->setAcceleratorTable(shortcuts(*GetMenuBar()));
     CreateStatusBar(3, wxSTB_DEFAULT_STYLE & ~wxSTB_SIZEGRIP);
@@ -199,11 +213,9 @@ void MainFrame::addCommands()
     addFrameCommands(m_commands, *this);
     addDrawingCommands(m_commands, *this);
     addLayerCommands(m_commands, *this);
-    m_commandLine->onCommand = [this](const wxString& line) {
-        if (!m_commands.run(line))
-            m_commandLine->log(wxString::Format(_("Unknown command: %s. HELP lists the commands."), line));
-    };
-    m_commandLine->onEscape = [this] { m_selection.clear(); };
+    addDrawCommands(m_commands, *this);
+    addHealthCommands(m_commands, *this);
+    connectSheetSets(m_commands, *this);
 }
 
 void MainFrame::connectCanvas()
@@ -217,6 +229,8 @@ void MainFrame::connectCanvas()
     });
     QObject::connect(&m_selection, &Selection::changed, &m_selection,
                      [this] { m_canvas->setHighlighted(m_selection.entities()); });
+    QObject::connect(&filter(), &FilterController::matchesFound, &m_selection,
+                     [this] { m_canvas->setHighlighted(filter().matches()); });
     m_canvasTip = std::make_unique<CanvasTip>(*m_canvas);
     m_canvas->onMenuWanted = [this] { m_contextMenu.open(); };
     m_canvasMenu.isGridShown = [this] { return m_canvas->isGridShown(); };
@@ -357,26 +371,6 @@ void MainFrame::warnOfConfiguration()
     });
 }
 
-void MainFrame::restoreGeometry()
-{
-    wxRect rect;
-    // A screen that the window stood on may be gone.
-    if (ut::Config::read(ut::ECfgGroup::Interface, rectKey, rect) && wxDisplay::GetFromPoint(rect.GetPosition()) >= 0)
-        SetSize(rect);
-    else
-        Centre();
-    bool maximized = false;
-    if (ut::Config::read(ut::ECfgGroup::Interface, maximizedKey, maximized) && maximized)
-        Maximize();
-}
-
-void MainFrame::storeGeometry()
-{
-    ut::Config::writeBool(ut::ECfgGroup::Interface, maximizedKey, IsMaximized());
-    if (!IsMaximized() && !IsIconized())
-        ut::Config::writeRect(ut::ECfgGroup::Interface, rectKey, GetRect());
-}
-
 void MainFrame::onClose(wxCloseEvent& event)
 {
     // A modal dialog that still runs is ended first, and whoever waits for it goes on, before its world goes.
@@ -390,7 +384,7 @@ void MainFrame::onClose(wxCloseEvent& event)
             event.Veto();
         return;
     }
-    storeGeometry();
+    storeGeometry(*this);
     Hide();
     Destroy();
 }

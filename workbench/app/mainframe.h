@@ -15,6 +15,8 @@
 #include "panels/partscontroller.h"
 #include "panels/screenscontroller.h"
 #include "props/currentpropertiescontroller.h"
+#include "sheetset/sheetsetcontroller.h"
+#include "steps/commandrun.h"
 #include "units/unitscontroller.h"
 
 #include <wx/frame.h>
@@ -55,16 +57,21 @@ public:
     Selection& selection() { return m_selection; }
     DrawingCanvas& canvas() { return *m_canvas; }
     CommandLine& commandLine() { return *m_commandLine; }
+    /// The command that runs step by step.
+    CommandRun& commandRun() { return m_commandRun; }
     LayersController& layers() { return m_layers; }
     DimStylesController& dimStyles() { return m_dimStyles; }
     StructureController& structure() { return m_drawingPanels.structure; }
     BranchController& branch() { return m_drawingPanels.branch; }
     PropertiesController& properties() { return m_drawingPanels.properties; }
     EntitiesController& entities() { return m_drawingPanels.entities; }
+    FilterController& filter() { return m_drawingPanels.filter; }
+    HealthController& health() { return m_drawingPanels.health; }
     ImagesController& images() { return m_images; }
     PartsController& parts() { return m_parts; }
     UnitsController& units() { return m_units; }
     ScreensController& screens() { return m_screens; }
+    SheetSetController& sheetSets() { return m_sheetSets; }
     CurrentPropertiesController& currentProperties() { return m_currentProperties; }
     const CanvasTip& canvasTip() const { return *m_canvasTip; }
     wxNotebook& panels() { return *m_panels; }
@@ -87,8 +94,6 @@ private:
     void showCursor(const OdGePoint3d& point);
     void showState();
     void warnOfConfiguration();
-    void restoreGeometry();
-    void storeGeometry();
     void onClose(wxCloseEvent& event);
 
     void documentBecameCurrent(OdApDocument* document) override;
@@ -107,9 +112,11 @@ private:
     UnitsController m_units;
     OdGePoint3d m_cursor; // in the coordinates of the drawing
     ScreensController m_screens;
+    SheetSetController m_sheetSets;
     OpenDrawings m_openDrawings;
     CurrentPropertiesController m_currentProperties;
     Commands m_commands;
+    CommandRun m_commandRun;
     CanvasMenu m_canvasMenu;
     ContextMenuPopup m_contextMenu;
     std::unique_ptr<CanvasTip> m_canvasTip;

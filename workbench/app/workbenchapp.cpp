@@ -107,8 +107,10 @@ int run(int argc, char** argv, std::function<int(WorkbenchApp&)> whenRunning)
     // A tour begins like a first start, and leaves the person's settings alone.
     const QTemporaryDir tourSettings;
     for (int index = 1; index < argc; ++index)
-        if (QByteArrayView(argv[index]).startsWith("--tour"))
+        if (QByteArrayView(argv[index]).startsWith("--tour")) {
             qputenv("TANDOLIN_CONFIG", QFile::encodeName(tourSettings.filePath("settings.ini")));
+            qputenv("XDG_DATA_HOME", QFile::encodeName(tourSettings.filePath("data")));
+        }
     whenRunningFunction() = std::move(whenRunning);
     auto* app = new WorkbenchApp;
     wxApp::SetInstance(app);

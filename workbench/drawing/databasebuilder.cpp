@@ -36,6 +36,21 @@ int lineWeightOf(const std::string& value)
     return weight < OdDb::kLnWtByLwDefault || weight > 211 ? OdDb::kLnWtByLayer : weight;
 }
 
+/// The method stands in the highest byte, and the opacity from 0 to 255 in the lowest.
+int transparencyOf(std::string_view value)
+{
+    std::uint32_t packed = 0;
+    std::from_chars(value.data(), value.data() + value.size(), packed);
+    switch (packed >> 24) {
+    case 1:
+        return OdDb::kTransparencyByBlock;
+    case 2:
+        return std::clamp(100 - static_cast<int>(std::lround((packed & 0xFF) / 2.55)), 0, 90);
+    default:
+        return OdDb::kTransparencyByLayer;
+    }
+}
+
 bool isNamed(const std::string& name, const wchar_t* expected)
 {
     return OdString(name.c_str()).iCompare(expected) == 0;
@@ -66,6 +81,11 @@ std::unique_ptr<OdDbDatabase> DatabaseBuilder::finish()
 std::wstring DatabaseBuilder::text(std::string_view value) const
 {
     return decodeDxfText(value, m_isUtf8);
+}
+
+void DatabaseBuilder::setTransparency(std::string_view value)
+{
+    m_transparency = transparencyOf(value);
 }
 
 void DatabaseBuilder::addLayer(const DL_LayerData& data)
@@ -141,6 +161,7 @@ void DatabaseBuilder::applyAttributes(T& target) const
     target.setColor(colorOf(attributes));
     target.setLinetype(linetypeId(attributes.getLinetype()));
     target.setLineWeight(attributes.getWidth());
+    target.setTransparency(m_transparency);
     target.setLayer(m_database->addLayer(text(attributes.getLayer()))->objectId());
 }
 

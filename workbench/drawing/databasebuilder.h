@@ -28,6 +28,8 @@ public:
     OdDbDatabase& database() { return *m_database; }
     /// The dimension style of the leader that comes next, which dxflib leaves out.
     void setLeaderStyle(std::string_view name) { m_leaderStyle = name; }
+    /// That of the entities that come next, as group 440 gives it, which dxflib leaves out; empty: by layer.
+    void setTransparency(std::string_view value);
     const std::map<std::string, int>& skipped() const { return m_skipped; }
     int entityCount() const { return m_entityCount; }
 
@@ -85,6 +87,7 @@ private:
     std::unique_ptr<OdDbPolyline> m_polyline; // until all of its vertices came
     std::unique_ptr<OdDbLeader> m_leader;     // until all of its vertices came
     std::string m_leaderStyle;
+    int m_transparency = OdDb::kTransparencyByLayer;
     bool m_isMirrored = false;                                           // the polyline
     std::unique_ptr<Spline> m_spline;                                    // until all of its points came
     std::string m_paragraphs;                                            // of the paragraph text that comes next

@@ -31,12 +31,19 @@ DrawingCanvas::DrawingCanvas(wxWindow* parent)
             zoomBy(std::pow(step, static_cast<double>(event.GetWheelRotation()) / event.GetWheelDelta()),
                    event.GetPosition());
     });
-    for (const auto& type : {wxEVT_MIDDLE_DOWN, wxEVT_LEFT_DOWN, wxEVT_MOTION, wxEVT_MIDDLE_UP, wxEVT_LEFT_UP})
+    for (const auto& type :
+         {wxEVT_MIDDLE_DOWN, wxEVT_LEFT_DOWN, wxEVT_LEFT_DCLICK, wxEVT_MOTION, wxEVT_MIDDLE_UP, wxEVT_LEFT_UP})
         Bind(type, &DrawingCanvas::trackMouse, this);
     Bind(wxEVT_RIGHT_UP, [this](wxMouseEvent& event) {
         pickAt(event.GetPosition());
         if (onMenuWanted)
             onMenuWanted();
+    });
+    Bind(wxEVT_LEAVE_WINDOW, [this](wxMouseEvent& event) {
+        m_cursor.reset();
+        if (rubberBand)
+            Refresh();
+        event.Skip();
     });
     Bind(wxEVT_MIDDLE_DCLICK, [this](wxMouseEvent&) { zoomExtents(); });
     Bind(wxEVT_MOUSE_CAPTURE_LOST, [this](wxMouseCaptureLostEvent&) { m_isPanning = false; });
@@ -68,20 +75,28 @@ void DrawingCanvas::zoomExtents()
     Refresh();
 }
 
-/// Which entities of the model space these are; empty when none is.
+/// Which entities of the model space these are, by their places there; empty without any.
 std::vector<bool> DrawingCanvas::places(const std::vector<OdDbObjectId>& entities) const
 {
     std::vector<bool> result;
     if (!m_database || entities.empty())
         return result;
-    std::vector<OdDbObjectId> sorted = entities;
-    std::ranges::sort(sorted);
     const OdArray<OdDbObjectId>& all = m_database->modelSpace()->entities();
-    for (unsigned int place = 0; place < all.size(); ++place)
-        if (std::ranges::binary_search(sorted, all[place])) {
-            result.resize(all.size());
+    result.resize(all.size());
+    // Most come in the order of the drawing, which saves looking them up.
+    auto next = entities.begin();
+    for (unsigned int place = 0; place < all.size() && next != entities.end(); ++place)
+        if (all[place] == *next) {
             result[place] = true;
+            ++next;
         }
+    if (next == entities.end())
+        return result;
+    std::vector<OdDbObjectId> sorted(next, entities.end());
+    std::ranges::sort(sorted);
+    for (unsigned int place = 0; place < all.size(); ++place)
+        if (std::ranges::binary_search(sorted, all[place]))
+            result[place] = true;
     return result;
 }
 
@@ -94,10 +109,19 @@ bool DrawingCanvas::zoomTo(const std::vector<OdDbObjectId>& entities)
             box.add(piece.box);
     if (box.isEmpty())
         return false;
+    zoomTo(box);
+    return true;
+}
+
+void DrawingCanvas::zoomTo(const Box& box)
+{
+    if (box.isEmpty()) {
+        zoomExtents();
+        return;
+    }
     m_isFitted = false;
     fit(box);
     Refresh();
-    return true;
 }
 
 void DrawingCanvas::fit(const Box& box)
@@ -157,6 +181,11 @@ void DrawingCanvas::showGrid(bool shown)
     Refresh();
 }
 
+wxColour DrawingCanvas::accentColour() const
+{
+    return accent ? accent() : wxColour(0, 120, 215);
+}
+
 void DrawingCanvas::paint()
 {
     wxAutoBufferedPaintDC dc(this);
@@ -168,8 +197,8 @@ void DrawingCanvas::paint()
         paintGrid(*context, m_view, colour);
     m_drawnEntityCount = DrawingPainter(*context, m_view, colour).paint(m_tessellation);
     if (!m_highlighted.empty())
-        DrawingPainter(*context, m_view, colour)
-            .paintHighlight(m_tessellation, m_highlighted, accent ? accent() : wxColour(0, 120, 215));
+        DrawingPainter(*context, m_view, colour).paintHighlight(m_tessellation, m_highlighted, accentColour());
+    paintRubberBand(*context);
 }
 
 void DrawingCanvas::trackMouse(wxMouseEvent& event)
@@ -184,14 +213,38 @@ void DrawingCanvas::trackMouse(wxMouseEvent& event)
     } else if (m_isPanning && event.Dragging()) {
         panBy(position - m_lastMouse);
     }
-    if (event.LeftDown() && !isPanButton)
-        pickAt(position);
     m_lastMouse = position;
-    if ((event.Moving() || event.Dragging()) && onCursorMoved) {
-        const OdGePoint3d point = m_view.toWorld(position.x, position.y);
-        onCursorMoved(m_isSnapping ? onGrid(point, gridSpacing(m_view.scale)) : point);
-    }
+    m_cursor = cursorAt(position);
+    // The second of two quick clicks is a point, too.
+    if ((event.LeftDown() || event.LeftDClick()) && !isPanButton && !(onPoint && onPoint(*m_cursor)))
+        pickAt(position);
+    if ((event.Moving() || event.Dragging()) && onCursorMoved)
+        onCursorMoved(*m_cursor);
+    if (!currentRubberBand().empty())
+        Refresh();
     event.Skip();
+}
+
+OdGePoint3d DrawingCanvas::cursorAt(wxPoint position) const
+{
+    const OdGePoint3d point = m_view.toWorld(position.x, position.y);
+    return m_isSnapping ? onGrid(point, gridSpacing(m_view.scale)) : point;
+}
+
+std::vector<OdGePoint3d> DrawingCanvas::currentRubberBand() const
+{
+    return rubberBand && m_cursor ? rubberBand(*m_cursor) : std::vector<OdGePoint3d>();
+}
+
+void DrawingCanvas::paintRubberBand(wxGraphicsContext& context) const
+{
+    std::vector<wxPoint2DDouble> places;
+    for (const OdGePoint3d& point : currentRubberBand())
+        places.push_back(m_view.toScreen(point.x, point.y));
+    if (places.empty())
+        return;
+    context.SetPen(context.CreatePen(wxGraphicsPenInfo(accentColour(), 2).Style(wxPENSTYLE_SHORT_DASH)));
+    context.StrokeLines(places.size(), places.data());
 }
 
 void DrawingCanvas::pickAt(wxPoint position)

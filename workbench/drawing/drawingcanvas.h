@@ -5,13 +5,14 @@
 #include <wx/panel.h>
 
 #include <functional>
+#include <optional>
 
 namespace workbench {
 
 /// Shows the model space of a drawing. The wheel zooms about the cursor; the middle button, or the left one with the
 /// space bar held, pans; a double click of the middle button shows everything. As long as the user hasn't moved the
 /// view, it stays fitted to the drawing when the size changes. A click of the left or the right button picks the entity
-/// under it.
+/// under it. A command may take the clicks as points instead; then the line that would come follows the cursor.
 class DrawingCanvas : public wxPanel
 {
 public:
@@ -26,6 +27,8 @@ public:
     void zoomExtents();
     /// False, with nothing changed, when nothing of the entities is drawn.
     bool zoomTo(const std::vector<OdDbObjectId>& entities);
+    /// All of the drawing for an empty box.
+    void zoomTo(const Box& box);
     /// The point of the drawing at `center`, in pixels, stays where it is.
     void zoomBy(double factor, wxPoint center);
     void panBy(wxPoint pixels);
@@ -51,18 +54,25 @@ public:
     std::size_t drawnEntityCount() const { return m_drawnEntityCount; }
 
     std::function<void(const OdGePoint3d&)> onCursorMoved; ///< in the coordinates of the drawing
+    std::function<bool(const OdGePoint3d&)> onPoint;       ///< asked before a left click picks; true when it is used up
     std::function<void(OdDbObjectId)> onPicked;            ///< null: nothing is there
-    std::function<void()> onMenuWanted;                    ///< the right button was released, after its picking
-    std::function<wxColour()> background;                  ///< asked at each paint; without it the canvas is dark grey
-    std::function<wxColour()> accent;                      ///< the selected entities', asked at each paint
+    /// What would be drawn to the cursor's place: a chain of points, or nothing.
+    std::function<std::vector<OdGePoint3d>(const OdGePoint3d&)> rubberBand;
+    std::function<void()> onMenuWanted;   ///< the right button was released, after its picking
+    std::function<wxColour()> background; ///< asked at each paint; without it the canvas is dark grey
+    std::function<wxColour()> accent;     ///< the selected entities', asked at each paint
 
 private:
     void fit() { fit(m_tessellation.box); }
     void fit(const Box& box);
     std::vector<bool> places(const std::vector<OdDbObjectId>& entities) const;
+    wxColour accentColour() const;
     void paint();
     void trackMouse(wxMouseEvent& event);
     void pickAt(wxPoint position);
+    OdGePoint3d cursorAt(wxPoint position) const;
+    std::vector<OdGePoint3d> currentRubberBand() const;
+    void paintRubberBand(wxGraphicsContext& context) const;
     void endPan();
 
     OdDbDatabase* m_database = nullptr; // not owned
@@ -74,6 +84,7 @@ private:
     bool m_isFitted = true;
     bool m_isPanning = false;
     wxPoint m_lastMouse;
+    std::optional<OdGePoint3d> m_cursor; // while the mouse is over the canvas
     std::size_t m_drawnEntityCount = 0;
 };
 

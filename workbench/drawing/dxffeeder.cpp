@@ -34,11 +34,6 @@ std::vector<std::pair<int, int>> countsOf(std::string_view type)
     return {};
 }
 
-std::wstring lowered(const std::wstring& name)
-{
-    return OdString(name).makeLower().wide();
-}
-
 } // namespace
 
 bool DxfFeeder::feed(const std::function<bool(double share)>& progress)
@@ -55,7 +50,6 @@ bool DxfFeeder::feed(const std::function<bool(double share)>& progress)
         start = range.second;
     }
     m_records.finish();
-    checkNesting();
     return true;
 }
 
@@ -91,7 +85,6 @@ void DxfFeeder::feedObject(const Range& range)
             feedGroup(0, "SKIPPED");
         m_records.note(groupsOf(range));
     } else if (m_section == "BLOCKS" || m_section == "ENTITIES") {
-        noteNesting(range, type);
         feedEntity(range, type);
     }
 }
@@ -105,9 +98,11 @@ void DxfFeeder::feedEntity(const Range& range, std::string_view type)
         ++m_skipped[std::string(type)];
         feedGroup(0, "SKIPPED");
     } else {
+        feedGroup(0, type);
+        // Not before: the former entity is built only now.
+        m_builder.setTransparency(valueOf(groupsOf(range), 440));
         if (type == "LEADER")
             m_builder.setLeaderStyle(valueOf(groupsOf(range), 3));
-        feedGroup(0, type);
         feedCounts(range, type);
         bool hasPoint = false;
         for (std::size_t i = range.first + 1; i < range.second; ++i) {
@@ -133,6 +128,7 @@ void DxfFeeder::feedDimension(const Range& range)
 {
     // A dimension names the block of the lines and texts that show it.
     feedGroup(0, "INSERT");
+    m_builder.setTransparency(valueOf(groupsOf(range), 440));
     for (std::size_t i = range.first + 1; i < range.second; ++i)
         if (const int code = m_groups[i].code;
             code == 2 || code == 6 || code == 8 || code == 62 || code == 67 || code == 370 || code == 420)
@@ -169,67 +165,6 @@ void DxfFeeder::feedGroup(int code, std::string_view value)
 DxfRecords::Groups DxfFeeder::groupsOf(const Range& range) const
 {
     return DxfRecords::Groups(m_groups).subspan(range.first, range.second - range.first);
-}
-
-std::wstring DxfFeeder::blockName(std::string_view value) const
-{
-    return lowered(m_builder.text(value));
-}
-
-void DxfFeeder::noteNesting(const Range& range, std::string_view type)
-{
-    if (m_section != "BLOCKS")
-        return;
-    if (type == "BLOCK")
-        m_block = blockName(valueOf(groupsOf(range), 2));
-    else if (isOneOf(type, {"INSERT", "DIMENSION"}))
-        for (std::size_t i = range.first; i < range.second; ++i)
-            if (m_groups[i].code == 2)
-                m_nestings[m_block].push_back({blockName(m_groups[i].value), i});
-}
-
-void DxfFeeder::checkNesting() const
-{
-    enum class State
-    {
-        Unknown,
-        Open, // on the way from the block that the search began with
-        Done,
-    };
-    struct Step
-    {
-        std::wstring block;
-        std::size_t next = 0; // of its nestings
-    };
-    static const std::vector<Nesting> none;
-    std::map<std::wstring, State> states;
-    const auto nestingsOf = [this](const std::wstring& block) -> const std::vector<Nesting>& {
-        const auto found = m_nestings.find(block);
-        return found == m_nestings.end() ? none : found->second;
-    };
-    for (const auto& [start, unused] : m_nestings) {
-        std::vector<Step> way; // not a recursion: a file may nest as deep as it likes
-        if (states[start] == State::Unknown)
-            way.push_back({start});
-        while (!way.empty()) {
-            const std::wstring block = way.back().block;
-            states[block] = State::Open;
-            const std::vector<Nesting>& nestings = nestingsOf(block);
-            if (way.back().next == nestings.size()) {
-                states[block] = State::Done;
-                way.pop_back();
-                continue;
-            }
-            const Nesting& nesting = nestings[way.back().next++];
-            if (states[nesting.block] == State::Open) {
-                const std::string name = OdString(m_builder.text(m_groups[nesting.group].value)).utf8();
-                throw DxfError("line " + std::to_string(2 * nesting.group + 2) + " inserts block \"" + name +
-                               (nesting.block == block ? "\" into itself." : "\" into one of its own parts."));
-            }
-            if (states[nesting.block] == State::Unknown)
-                way.push_back({nesting.block});
-        }
-    }
 }
 
 } // namespace workbench

@@ -22,19 +22,12 @@ public:
         : m_groups(groups.groups), m_builder(builder), m_records(builder)
     {}
 
-    /// False when `progress`, which gets the share from 0 to 1, cancelled it. Throws DxfError for a block that contains
-    /// itself.
+    /// False when `progress`, which gets the share from 0 to 1, cancelled it.
     bool feed(const std::function<bool(double share)>& progress);
 
     const std::map<std::string, int>& skipped() const { return m_skipped; }
 
 private:
-    /// An insert in the definition of a block.
-    struct Nesting
-    {
-        std::wstring block;    // in lower case
-        std::size_t group = 0; // that names it
-    };
     using Range = std::pair<std::size_t, std::size_t>; // of groups, from the one with code 0 to behind the last
 
     Range objectAt(std::size_t start) const;
@@ -44,10 +37,7 @@ private:
     void feedDimension(const Range& range);
     void feedValue(std::string_view type, const DxfGroup& group);
     void feedGroup(int code, std::string_view value);
-    void noteNesting(const Range& range, std::string_view type);
-    void checkNesting() const;
     DxfRecords::Groups groupsOf(const Range& range) const;
-    std::wstring blockName(std::string_view value) const;
 
     /// dxflib leaves unset what object it is reading, and would add one before the first.
     class ZeroedDxf
@@ -78,8 +68,6 @@ private:
     std::string m_lines; // what m_buffer reads
     std::string_view m_section;
     std::map<std::string, int> m_skipped;
-    std::wstring m_block;                                    // the one being defined, in lower case
-    std::map<std::wstring, std::vector<Nesting>> m_nestings; // by the block that contains them
 };
 
 } // namespace workbench

@@ -252,6 +252,21 @@ std::string_view valueOf(std::span<const DxfGroup> object, int code)
     return {};
 }
 
+double numberOf(std::string_view value)
+{
+    if (value.starts_with('+'))
+        value.remove_prefix(1);
+    double result = 0.0;
+    std::from_chars(value.data(), value.data() + value.size(), result);
+    return result;
+}
+
+std::filesystem::path pathOf(const OdString& fileName)
+{
+    const std::string name = fileName.utf8();
+    return std::u8string(name.begin(), name.end());
+}
+
 void loadDxfGroups(const std::filesystem::path& file, const std::function<bool(double share)>& progress,
                    DxfGroups& result)
 {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "od/odstring.h"
+
 #include <filesystem>
 #include <functional>
 #include <span>
@@ -27,6 +29,9 @@ struct DxfGroup
 /// The first value of a code among the groups of an object, behind the group that names its type; or empty.
 std::string_view valueOf(std::span<const DxfGroup> object, int code);
 
+/// Of a value that was checked to be a number; 0 for another.
+double numberOf(std::string_view value);
+
 /// The groups of a DXF text file, checked: whole, in sections, with a finite number wherever one has to stand.
 /// Group i stands on the lines 2i+1 (its code) and 2i+2 (its value).
 /// Not supported: binary DXF, files above 1 GB.
@@ -41,6 +46,9 @@ struct DxfGroups
     DxfGroups(const DxfGroups&) = delete;
     DxfGroups& operator=(const DxfGroups&) = delete;
 };
+
+/// For any name: a path made of wide characters throws for some.
+std::filesystem::path pathOf(const OdString& fileName);
 
 /// Reads and checks a file into `result`; throws DxfError. `progress` gets the share from 0 to 1 and returns false to
 /// cancel.

@@ -1,5 +1,6 @@
 #include "drawing/dxfreader.h"
 
+#include "drawing/blocknesting.h"
 #include "drawing/dxffeeder.h"
 
 #include <algorithm>
@@ -27,6 +28,7 @@ void read(const std::filesystem::path& file, const std::function<bool(int)>& pro
     result.cancelled = groups.cancelled;
     if (result.cancelled)
         return;
+    checkBlockNesting(groups);
     DatabaseBuilder builder(groups.isUtf8);
     DxfFeeder feeder(groups, builder);
     const auto reportFeeding = [&](double share) { return report(checking + (99.0 - checking) * share); };
@@ -45,9 +47,9 @@ void read(const std::filesystem::path& file, const std::function<bool(int)>& pro
 DxfReadResult readDxf(const OdString& fileName, const std::function<bool(int percent)>& progress)
 {
     DxfReadResult result;
-    const std::filesystem::path file(fileName.wide());
+    const std::filesystem::path file = pathOf(fileName);
     const auto failed = [&](const char* problem) {
-        const OdString name = file.filename().wstring();
+        const OdString name = file.filename().string().c_str();
         result.error = OdString(L"\"") + (name.isEmpty() ? fileName : name) + L"\" can't be read: " + OdString(problem);
     };
     try {

@@ -1,23 +1,8 @@
 #include "drawing/dxfrecords.h"
 
 #include <algorithm>
-#include <charconv>
 
 namespace workbench {
-
-namespace {
-
-/// Of a value that was checked to be a number.
-double number(std::string_view value)
-{
-    if (value.starts_with('+'))
-        value.remove_prefix(1);
-    double result = 0.0;
-    std::from_chars(value.data(), value.data() + value.size(), result);
-    return result;
-}
-
-} // namespace
 
 void DxfRecords::noteHeader(Groups header)
 {
@@ -93,13 +78,13 @@ void DxfRecords::noteDimStyle(Groups record)
     OdDbDimStyleTableRecord* style = m_builder.database().addDimStyle(m_builder.text(name));
     for (const auto& [code, value] : record) {
         if (code == 40)
-            style->setDimscale(number(value));
+            style->setDimscale(numberOf(value));
         else if (code == 41)
-            style->setDimasz(number(value));
+            style->setDimasz(numberOf(value));
         else if (code == 140)
-            style->setDimtxt(number(value));
+            style->setDimtxt(numberOf(value));
         else if (code == 271)
-            style->setDimdec(static_cast<int>(std::clamp(number(value), 0.0, 8.0)));
+            style->setDimdec(static_cast<int>(std::clamp(numberOf(value), 0.0, 8.0)));
     }
     m_dimTextStyles.emplace_back(style, valueOf(record, 340));
     m_leaderArrowheads.emplace_back(style, valueOf(record, 341));

@@ -8,6 +8,7 @@
 #include "panels/propertytexts.h"
 #include "velm/bridge/conversions.h"
 #include "velm/bridge/externalfunctions.h"
+#include "velm/dialogs/commandcontextdialogcontroller.h"
 
 #include <QObject>
 
@@ -25,6 +26,8 @@ std::unique_ptr<velm::IHostDialog> GuiController::createDialog(const QUrl& page,
                                                                wxWindow* parent, const velm::DialogOptions& options,
                                                                void*)
 {
+    if (auto* context = dynamic_cast<velm::CommandContextDialogController*>(controller); context && m_contextArea)
+        return m_contextArea->createPanel(page, *context);
     return std::make_unique<HostDialog>(m_pages, page, controller, parent, options);
 }
 
@@ -36,11 +39,15 @@ void GuiController::hostOpenUrl(QUrl url)
 void GuiController::addContextDialog(velm::IHostDialog* dialog)
 {
     m_contextDialogs.push_back(dialog);
+    if (m_contextArea)
+        m_contextArea->showArea(true);
 }
 
 void GuiController::removeContextDialog(velm::IHostDialog* dialog)
 {
     std::erase(m_contextDialogs, dialog);
+    if (m_contextArea && m_contextDialogs.empty())
+        m_contextArea->showArea(false);
 }
 
 std::shared_ptr<void> GuiController::hostCreateShared1(const QUrl&, std::unique_ptr<QObject>)

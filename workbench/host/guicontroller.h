@@ -1,6 +1,9 @@
 #pragma once
 
+#include "host/contextarea.h"
 #include "velm/bridge/iguicontroller.h"
+
+#include <wx/weakref.h>
 
 #include <memory>
 #include <vector>
@@ -8,14 +11,17 @@
 namespace workbench {
 class PageGroup;
 
-/// The host's GUI service: dialogs with pages, addresses opened in the browser, linetypes, the lineweight table, and
-/// what colours are called and look like. The shared colours are velm's own. Not supported, and answered as by a host
-/// without it: what only other hosts' plugins ask for.
+/// The host's GUI service: dialogs with pages, panels of running commands beside the drawing, addresses opened in the
+/// browser, linetypes, the lineweight table, and what colours are called and look like. The shared colours are velm's
+/// own. Not supported, and answered as by a host without it: what only other hosts' plugins ask for.
 class GuiController : public velm::IGuiController
 {
 public:
     explicit GuiController(PageGroup& pages);
     ~GuiController() override;
+
+    /// Where the panels of running commands stand; without an area they are windows of their own.
+    void setContextArea(ContextArea* area) { m_contextArea = area; }
 
     std::unique_ptr<velm::IHostDialog> createDialog(const QUrl& page, velm::BaseDialogController* controller,
                                                     wxWindow* parent, const velm::DialogOptions& options,
@@ -68,5 +74,6 @@ private:
     PageGroup& m_pages;
     std::unique_ptr<velm::IGuiController> m_colors;   // keeps the shared colours
     std::vector<velm::IHostDialog*> m_contextDialogs; // not owned
+    wxWeakRef<ContextArea> m_contextArea;             // not owned
 };
 } // namespace workbench

@@ -1,5 +1,6 @@
 #include "host/pageview.h"
 
+#include <QCoreApplication>
 #include <QQuickItem>
 
 namespace workbench {
@@ -33,7 +34,11 @@ bool isInput(QEvent::Type type)
 }
 } // namespace
 
-PageView::PageView() = default;
+PageView::PageView()
+{
+    // The overlay of a popup takes what is for the window, by a filter on the window itself.
+    QCoreApplication::instance()->installEventFilter(this);
+}
 
 PageView::~PageView() = default;
 
@@ -108,15 +113,17 @@ bool PageView::leavesByTab(bool forward) const
     return !current || current == endOfChain(!forward);
 }
 
-bool PageView::event(QEvent* event)
+bool PageView::eventFilter(QObject* object, QEvent* event)
 {
+    if (object != this)
+        return false;
     if (m_blocked && isInput(event->type())) {
         event->accept();
         return true;
     }
     if (event->type() == QEvent::MouseButtonPress && onPressed)
         onPressed();
-    return QQuickWindow::event(event);
+    return false;
 }
 
 void PageView::keyPressEvent(QKeyEvent* event)

@@ -34,7 +34,8 @@ public:
     std::function<void(const QKeyEvent&)> onKey; ///< a key that the page doesn't take
 
 protected:
-    bool event(QEvent* event) override;
+    /// Sees the input of the view before an open popup of the page does.
+    bool eventFilter(QObject* object, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 

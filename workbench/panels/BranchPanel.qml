@@ -12,6 +12,8 @@ PanelPage {
     required property var controller
     readonly property var crumbs: controller.crumbs
 
+    helpKey: "models"
+
     ColumnLayout {
         anchors.fill: parent
         spacing: Metrics.spacing

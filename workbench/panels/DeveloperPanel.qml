@@ -10,6 +10,8 @@ PanelPage {
 
     property var controller: null
 
+    helpKey: "images"
+
     ColumnLayout {
         id: content
 

@@ -7,10 +7,13 @@ PanelPage {
 
     required property var controller
 
+    helpKey: "tables"
+
     RecordTable {
         anchors.fill: parent
         controller: page.controller
         name: "dimStyles"
+        helpKey: page.helpKey
         searchHint: qsTr("Search dimension styles")
         nothingFound: qsTr("No dimension style's name contains this text.")
         noDrawing: qsTr("Open a drawing to see its dimension styles.")

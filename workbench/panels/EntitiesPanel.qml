@@ -10,6 +10,8 @@ PanelPage {
 
     required property var controller
 
+    helpKey: "tables"
+
     ColumnLayout {
         anchors.fill: parent
         spacing: Metrics.spacing
@@ -39,6 +41,9 @@ PanelPage {
             }
             SelectionModeButtons {
                 table: page.controller.table
+            }
+            HelpButton {
+                key: page.helpKey
             }
         }
         Item {

@@ -11,6 +11,8 @@ PanelPage {
 
     required property var controller
 
+    helpKey: "images"
+
     function areaText(area: rect): string {
         return qsTr("%1 x %2 at %3, %4").arg(area.width).arg(area.height).arg(area.x).arg(area.y);
     }
@@ -61,6 +63,9 @@ PanelPage {
                     toolIcon: "open"
                     text: qsTr("Open a picture file")
                     onClicked: page.controller.askForFile()
+                }
+                HelpButton {
+                    key: page.helpKey
                 }
             }
             RowLayout {

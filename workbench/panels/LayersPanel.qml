@@ -10,6 +10,8 @@ PanelPage {
 
     required property var controller
 
+    helpKey: "tables"
+
     ColumnLayout {
         anchors.fill: parent
         spacing: Metrics.spacing
@@ -19,6 +21,7 @@ PanelPage {
             Layout.fillHeight: true
             controller: page.controller
             name: "layers"
+            helpKey: page.helpKey
             searchHint: qsTr("Search layers")
             nothingFound: qsTr("No layer's name or description contains this text.")
             noDrawing: qsTr("Open a drawing to see its layers.")

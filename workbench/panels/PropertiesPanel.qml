@@ -10,6 +10,8 @@ PanelPage {
 
     required property var controller
 
+    helpKey: "models"
+
     PropertyList {
         objectName: "properties"
         anchors.fill: parent

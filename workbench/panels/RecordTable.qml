@@ -12,18 +12,27 @@ ColumnLayout {
     required property string searchHint
     required property string nothingFound
     required property string noDrawing
+    property string helpKey
 
     // The user chose the current row by Enter, or by a double click on what can't be edited.
     signal activated
 
     spacing: Metrics.spacing
 
-    SearchField {
-        objectName: "search"
-        Layout.fillWidth: true
-        enabled: control.controller.hasDrawing
-        placeholderText: control.searchHint
-        onTextChanged: control.controller.setSearchText(text)
+    RowLayout {
+        spacing: Metrics.spacing
+
+        SearchField {
+            objectName: "search"
+            Layout.fillWidth: true
+            enabled: control.controller.hasDrawing
+            placeholderText: control.searchHint
+            onTextChanged: control.controller.setSearchText(text)
+        }
+        HelpButton {
+            objectName: "help"
+            key: control.helpKey
+        }
     }
     Item {
         Layout.fillWidth: true

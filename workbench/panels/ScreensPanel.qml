@@ -9,6 +9,9 @@ PanelPage {
     id: page
 
     required property var controller
+
+    helpKey: "screens"
+
     // Not a child: the page's own window, which lies in one of the host's, would be taken for the popup's parent.
     readonly property PopupWindow converter: PopupWindow {
         objectName: "converter"
@@ -66,12 +69,20 @@ PanelPage {
                 implicitHeight: 100
                 controller: page.controller
             }
-            Button {
-                id: convert
+            RowLayout {
+                Button {
+                    id: convert
 
-                objectName: "convert"
-                text: qsTr("&Convert a Length")
-                onClicked: page.converter.toggle()
+                    objectName: "convert"
+                    text: qsTr("&Convert a Length")
+                    onClicked: page.converter.toggle()
+                }
+                Item {
+                    Layout.fillWidth: true
+                }
+                HelpButton {
+                    key: page.helpKey
+                }
             }
             InfoRows {
                 Layout.fillWidth: true

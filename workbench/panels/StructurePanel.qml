@@ -10,6 +10,8 @@ PanelPage {
 
     required property var controller
 
+    helpKey: "models"
+
     ColumnLayout {
         anchors.fill: parent
         spacing: Metrics.spacing
@@ -19,6 +21,7 @@ PanelPage {
             Layout.fillWidth: true
             title: qsTr("Structure")
             menuModel: page.controller.menu
+            helpKey: page.helpKey
         }
         SplitButton {
             objectName: "actions"

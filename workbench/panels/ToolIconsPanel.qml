@@ -9,6 +9,8 @@ PanelPage {
 
     required property var controller
 
+    helpKey: "images"
+
     ListView {
         id: list
 

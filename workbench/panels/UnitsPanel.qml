@@ -12,6 +12,8 @@ PanelPage {
 
     required property var controller
 
+    helpKey: "units"
+
     // The keyboard may go to a field that is scrolled out of sight.
     function reveal(item: Item) {
         let above = item;
@@ -134,8 +136,15 @@ PanelPage {
             columnSpacing: Metrics.spacing
             rowSpacing: Metrics.spacing
 
-            Title {
-                text: qsTr("As the drawing writes them")
+            RowLayout {
+                Layout.columnSpan: 2
+
+                Title {
+                    text: qsTr("As the drawing writes them")
+                }
+                HelpButton {
+                    key: page.helpKey
+                }
             }
             Caption {
                 text: qsTr("Length")

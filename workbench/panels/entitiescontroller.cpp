@@ -8,6 +8,11 @@
 #include <algorithm>
 
 namespace workbench {
+namespace {
+/// A selection model compares all pieces of its former selection with all of the new one.
+constexpr qsizetype mostRanges = 1000;
+} // namespace
+
 EntitiesController::EntitiesController(OdApDocManager& documents, Selection& selection)
     : m_documents(documents), m_selection(selection), m_actions(selection)
 {
@@ -166,7 +171,7 @@ void EntitiesController::select(std::vector<std::pair<int, OdDbObjectId>> shown)
     std::ranges::sort(shown);
     QItemSelection ranges;
     const int lastColumn = m_table.columnCount() - 1;
-    for (auto first = shown.begin(); first != shown.end();) {
+    for (auto first = shown.begin(); first != shown.end() && ranges.size() <= mostRanges;) {
         // Ranges are dear: one for all rows that lie together.
         auto last = first;
         while (last + 1 != shown.end() && (last + 1)->first == last->first + 1)
@@ -174,6 +179,8 @@ void EntitiesController::select(std::vector<std::pair<int, OdDbObjectId>> shown)
         ranges.select(m_table.index(first->first, 0), m_table.index(last->first, lastColumn));
         first = last + 1;
     }
+    if (ranges.size() > mostRanges)
+        ranges.clear();
     m_table.selectionModel()->select(ranges, QItemSelectionModel::ClearAndSelect);
 }
 } // namespace workbench

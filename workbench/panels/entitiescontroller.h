@@ -11,7 +11,8 @@ class Selection;
 
 /// What the page of the drawing's entities talks to: the table and a search in it. The selection of the table and that
 /// of the drawing follow each other, by rows and by cells; whole columns are no selection of entities. Entities that
-/// the search hides stay selected in the drawing until something else is selected.
+/// the search hides, and those that lie in too many pieces among the rows, stay selected in the drawing until something
+/// else is selected.
 class EntitiesController : public QObject, private OdApDocManagerReactor
 {
     Q_OBJECT

@@ -18,7 +18,7 @@ bool EntityFilter::matches(int text)
     if (place >= m_known.size())
         m_known.resize(place + 1, Match::Unknown);
     if (m_known[place] == Match::Unknown)
-        m_known[place] = m_model.texts().text(text).contains(m_text, Qt::CaseInsensitive) ? Match::Yes : Match::No;
+        m_known[place] = m_model.texts().value(text).contains(m_text, Qt::CaseInsensitive) ? Match::Yes : Match::No;
     return m_known[place] == Match::Yes;
 }
 

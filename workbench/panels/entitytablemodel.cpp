@@ -187,13 +187,13 @@ QVariant EntityTableModel::value(const Row& row, int column) const
     case NumberColumn:
         return row.id.index();
     case KindColumn:
-        return m_texts.text(row.texts[KindText]);
+        return m_texts.value(row.texts[KindText]);
     case LayerColumn:
-        return m_texts.text(row.texts[LayerText]);
+        return m_texts.value(row.texts[LayerText]);
     case ColorColumn:
-        return m_texts.text(row.texts[ColorText]);
+        return m_texts.value(row.texts[ColorText]);
     case LinetypeColumn:
-        return m_texts.text(row.texts[LinetypeText]);
+        return m_texts.value(row.texts[LinetypeText]);
     case LineWeightColumn:
         return row.lineWeight;
     case LengthColumn:
@@ -207,7 +207,7 @@ QVariant EntityTableModel::value(const Row& row, int column) const
     case StartYColumn:
         return row.geometry.start.y;
     case TextColumn:
-        return m_texts.text(row.texts[ContentText]);
+        return m_texts.value(row.texts[ContentText]);
     default:
         return {};
     }

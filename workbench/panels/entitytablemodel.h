@@ -2,7 +2,7 @@
 
 #include "drawing/entitygeometry.h"
 #include "od/odunitsformatter.h"
-#include "panels/textpool.h"
+#include "panels/valuepool.h"
 #include "velm/table/columns.h"
 
 #include <QAbstractTableModel>

@@ -46,6 +46,16 @@ ObjectField makeLineWeightField(Object& object)
                             [&object](int weight) { object.setLineWeight(weight); });
 }
 
+ObjectField transparencyField(OdDbEntity& entity)
+{
+    std::vector<int> transparencies{OdDb::kTransparencyByLayer, OdDb::kTransparencyByBlock};
+    for (int percent = 0; percent <= 90; percent += 10)
+        transparencies.push_back(percent);
+    return choiceField<int>(Texts::tr("Transparency"), std::move(transparencies), transparencyText,
+                            entity.transparency(),
+                            [&entity](int transparency) { entity.setTransparency(transparency); });
+}
+
 ObjectField layerField(OdDbEntity& entity)
 {
     return choiceField<OdDbObjectId>(Texts::tr("Layer"), idsOf(entity.database()->layers()), recordText,
@@ -86,6 +96,7 @@ std::vector<ObjectField> entityFields(OdDbEntity& entity)
         fields.push_back(shownField(Texts::tr("Layer shown"), *layer));
     fields.push_back(makeColorField(entity));
     fields.push_back(makeLineWeightField(entity));
+    fields.push_back(transparencyField(entity));
     for (const EntityMeasure& measure : entityMeasures(entity))
         fields.push_back(readOnlyField(measure.label, measure.value));
     return fields;

@@ -71,6 +71,18 @@ QString lineWeightText(int lineWeight)
     }
 }
 
+QString transparencyText(int transparency)
+{
+    switch (transparency) {
+    case OdDb::kTransparencyByLayer:
+        return Texts::tr("ByLayer");
+    case OdDb::kTransparencyByBlock:
+        return Texts::tr("ByBlock");
+    default:
+        return Texts::tr("%1 %").arg(transparency);
+    }
+}
+
 bool areLineWeightsInInches()
 {
     bool inches = false;

@@ -17,6 +17,8 @@ QString colorText(const OdCmColor& color);
 std::span<const int> lineWeights();
 /// "ByLayer", "ByBlock", "Default", or in the user's units as in "0.25 mm" and "0.010\"".
 QString lineWeightText(int lineWeight);
+/// "ByLayer", "ByBlock", or in percent as in "30 %".
+QString transparencyText(int transparency);
 /// Otherwise in millimetres.
 bool areLineWeightsInInches();
 /// Stores the user's units. What shows lineweights has to be told to write them anew.

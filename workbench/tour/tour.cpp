@@ -9,11 +9,15 @@
 #include "od/oddbdatabase.h"
 #include "tour/colourtour.h"
 #include "tour/combotour.h"
+#include "tour/contexttour.h"
 #include "tour/driver.h"
+#include "tour/filtertour.h"
+#include "tour/healthtour.h"
 #include "tour/imagetour.h"
 #include "tour/linetypetour.h"
 #include "tour/paneltour.h"
 #include "tour/screentour.h"
+#include "tour/sheetsettour.h"
 #include "tour/tabletour.h"
 #include "tour/unitstour.h"
 #include "velm/bridge/conversions.h"
@@ -375,6 +379,10 @@ int Tour::run(bool hasDrawing)
          [this](Tour*) {
              ComboTour(m_driver, write("other.dxf", smallDrawing), [this](const QString& name) { save(name); }).run();
          }},
+        {"filter", [this](Tour*) { FilterTour(m_driver, [this](const QString& name) { save(name); }).run(); }},
+        {"drawn-in-steps", [this](Tour*) { ContextTour(m_driver, [this](const QString& name) { save(name); }).run(); }},
+        {"health", [this](Tour*) { HealthTour(m_driver, [this](const QString& name) { save(name); }).run(); }},
+        {"sheet-sets", [this](Tour*) { SheetSetTour(m_driver, [this](const QString& name) { save(name); }).run(); }},
         {"tool-tip", screens(&ScreenTour::showTip)},
         {"screens", screens(&ScreenTour::showScreens)},
         {"popup", screens(&ScreenTour::openPopup)},

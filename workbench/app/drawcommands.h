@@ -1,0 +1,11 @@
+#pragma once
+
+namespace workbench {
+class Commands;
+class MainFrame;
+
+/// The commands that draw, step by step. The frame outlives the commands.
+void addDrawCommands(Commands& commands, MainFrame& frame);
+/// What is typed and picked goes to the command that runs, and what it doesn't understand to the commands.
+void connectCommandRun(Commands& commands, MainFrame& frame);
+} // namespace workbench
