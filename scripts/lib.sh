@@ -11,7 +11,7 @@ build_packages=(
 )
 run_packages=(
   qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-templates qml6-module-qtquick-layouts
-  qml6-module-qtquick-window qml6-module-qtquick-shapes qml6-module-qtqml qml6-module-qtqml-models
+  qml6-module-qtquick-window qml6-module-qtqml qml6-module-qtqml-models
   qml6-module-qtqml-workerscript libgl1-mesa-dri fonts-dejavu-core adwaita-icon-theme
 )
 # A private X server with a window manager, several monitors, and a hand on mouse and keyboard.
