@@ -81,7 +81,7 @@ PanelPage {
                     objectName: "healthAdvice"
                     Layout.fillWidth: true
                     text: page.controller.hasFindings ? page.controller.advice : ""
-                    elide: Text.ElideRight
+                    wrapMode: Text.Wrap
                 }
                 Button {
                     objectName: "selectFindings"
