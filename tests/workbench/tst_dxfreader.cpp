@@ -101,6 +101,10 @@ void DxfReaderTest::unknownEntitiesAreCountedAndTheRestIsRead()
     const auto* line = entity<OdDbLine>(result, 4);
     QVERIFY(line);
     QVERIFY((line->endPoint == OdGePoint3d{90, 60, 0}));
+    // A viewport is known, though it is no entity that is drawn.
+    const DxfReadResult sheet = readText(drawing("0 VIEWPORT|67 1|8 0|69 2|40 20|41 10|0 LINE|10 0|20 0|11 1|21 1"));
+    QVERIFY(sheet.skipped.empty());
+    QCOMPARE(sheet.entityCount, 1);
 }
 
 void DxfReaderTest::entitiesKeepTheirGeometry()
