@@ -225,6 +225,7 @@ void SheetSetsTest::aFullWatcherIsToldOnce()
     disk.controller->dismissWarning();
     QCOMPARE(disk.controller->warning(), QString());
 
+    QTRY_VERIFY(!disk.controller->isReading());
     // The rest goes on: what is watched is followed, and reloading finds the rest.
     disk.write("root/a/new.dxf");
     disk.makeFolder("root/d");
@@ -238,8 +239,10 @@ void SheetSetsTest::aFolderThatCantBeReadIsLocked_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("changing");
-    QTest::newRow("a root") << "root" << "other";
-    QTest::newRow("a folder in a root") << "root/inner" << "root/other";
+    QTest::newRow("a root") << "root"
+                            << "other";
+    QTest::newRow("a folder in a root") << "root/inner"
+                                        << "root/other";
 }
 
 void SheetSetsTest::aFolderThatCantBeReadIsLocked()

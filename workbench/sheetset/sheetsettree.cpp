@@ -151,10 +151,11 @@ void SheetSetTree::approach(const QModelIndex& row)
         Q_EMIT found(row);
     } else if (canFetchMore(row)) {
         fetchMore(row);
-    } else if (!node(row)->isFolder()) {
-        m_wanted.clear();
     } else if (!readingOf(row)) {
-        follow(row); // it may have come just now
+        if (node(row)->isFolder())
+            follow(row); // it may have come just now
+        else
+            m_wanted.clear();
     }
 }
 
