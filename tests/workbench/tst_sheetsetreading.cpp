@@ -11,14 +11,18 @@ class SeenCounts
 public:
     SeenCounts(const SheetSetHouse& disk, const QString& name)
     {
-        QObject::connect(&m_timer, &QTimer::timeout, &m_timer,
-                         [this, &disk, name] { m_counts.insert(disk.count(name)); });
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this, &disk, name] {
+            if (!m_row.isValid())
+                m_row = disk.row(name);
+            m_counts.insert(disk.controller->tree()->rowCount(m_row));
+        });
         m_timer.start(0);
     }
     bool areMany() const { return m_counts.size() > 5; }
 
 private:
     QTimer m_timer;
+    QPersistentModelIndex m_row;
     std::set<int> m_counts;
 };
 

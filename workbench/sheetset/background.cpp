@@ -18,10 +18,10 @@ Background::~Background()
 void Background::start(const Job& job, int priority)
 {
     m_pool.start(
-        [this, job] {
+        [this, job, priority] {
             Result result = job(m_stop.get_token());
             QMutexLocker lock(&m_mutex);
-            m_results.push_back(std::move(result));
+            m_results.emplace(priority, std::move(result));
             const bool isFirst = m_results.size() == 1;
             lock.unlock();
             if (isFirst)
@@ -35,8 +35,8 @@ bool Background::finishOne()
     QMutexLocker lock(&m_mutex);
     if (m_results.empty())
         return false;
-    const Result result = std::move(m_results.front());
-    m_results.pop_front();
+    const Result result = std::move(m_results.begin()->second);
+    m_results.erase(m_results.begin());
     lock.unlock();
     result();
     return true;

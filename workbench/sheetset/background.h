@@ -4,8 +4,8 @@
 #include <QObject>
 #include <QThreadPool>
 
-#include <deque>
 #include <functional>
+#include <map>
 #include <stop_token>
 
 namespace workbench {
@@ -22,9 +22,9 @@ public:
     explicit Background(int threads);
     ~Background() override;
 
-    /// Of the jobs that wait, the one with the highest priority is the next.
+    /// Of the jobs that wait, the one with the highest priority is the next, and its result comes before others.
     void start(const Job& job, int priority);
-    /// Takes up the oldest result; false when there is none.
+    /// Takes up a result; false when there is none.
     bool finishOne();
 
 Q_SIGNALS:
@@ -33,7 +33,7 @@ Q_SIGNALS:
 
 private:
     QMutex m_mutex;
-    std::deque<Result> m_results;
+    std::multimap<int, Result, std::greater<>> m_results; // by priority
     std::stop_source m_stop;
     QThreadPool m_pool;
 };
