@@ -76,7 +76,9 @@ std::string readFile(const std::filesystem::path& file)
 class GroupChecker
 {
 public:
-    explicit GroupChecker(DxfGroups& groups) : m_groups(groups), m_text(groups.text) {}
+    GroupChecker(DxfGroups& groups, const DxfObjectFilter& filter)
+        : m_groups(groups), m_filter(filter), m_text(groups.text)
+    {}
 
     void check(const std::function<bool(double)>& progress);
 
@@ -92,6 +94,7 @@ private:
     std::string holds(std::string_view value) const;
 
     DxfGroups& m_groups;
+    const DxfObjectFilter& m_filter;
     std::string_view m_text;
     std::size_t m_position = 0;
     std::size_t m_line = 0;     // of the line read last, from 1
@@ -119,7 +122,9 @@ void GroupChecker::check(const std::function<bool(double)>& progress)
     }
     if (m_text.starts_with("\xEF\xBB\xBF"))
         m_position = 3;
-    m_groups.groups.reserve(m_text.size() / 16);
+    if (!m_filter)
+        m_groups.groups.reserve(m_text.size() / 16);
+    bool isKept = true;
     std::size_t nextReport = 0;
     while (true) {
         if (m_position >= nextReport) {
@@ -146,7 +151,10 @@ void GroupChecker::check(const std::function<bool(double)>& progress)
         const bool isText = code == 1 || code == 3;
         const std::string_view value = isText ? withoutReturn(line) : trimmed(line);
         checkGroup(code, value);
-        m_groups.groups.push_back({code, value});
+        if (code == 0 && m_filter)
+            isKept = m_filter(m_section, value);
+        if (isKept)
+            m_groups.groups.push_back({code, value});
         if (code == 0 && value == "EOF")
             return;
     }
@@ -268,11 +276,11 @@ std::filesystem::path pathOf(const OdString& fileName)
 }
 
 void loadDxfGroups(const std::filesystem::path& file, const std::function<bool(double share)>& progress,
-                   DxfGroups& result)
+                   DxfGroups& result, const DxfObjectFilter& filter)
 {
     result.text = readFile(file);
     result.isUtf8 = isValidUtf8(result.text);
-    GroupChecker(result).check(progress);
+    GroupChecker(result, filter).check(progress);
 }
 
 } // namespace workbench

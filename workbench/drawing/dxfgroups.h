@@ -38,7 +38,7 @@ double numberOf(std::string_view value);
 struct DxfGroups
 {
     std::string text;             ///< what the values point into
-    std::vector<DxfGroup> groups; ///< the last one is the end mark
+    std::vector<DxfGroup> groups; ///< the last one is the end mark, unless only some objects are kept
     bool isUtf8 = true;           ///< otherwise the text is in the western code page
     bool cancelled = false;
 
@@ -50,9 +50,13 @@ struct DxfGroups
 /// For any name: a path made of wide characters throws for some.
 std::filesystem::path pathOf(const OdString& fileName);
 
+/// Whether the groups of an object of this type in this section are kept.
+using DxfObjectFilter = std::function<bool(std::string_view section, std::string_view type)>;
+
 /// Reads and checks a file into `result`; throws DxfError. `progress` gets the share from 0 to 1 and returns false to
-/// cancel.
+/// cancel. With a filter all of the file is checked but only a part of it is kept, so that a group's place doesn't tell
+/// its line.
 void loadDxfGroups(const std::filesystem::path& file, const std::function<bool(double share)>& progress,
-                   DxfGroups& result);
+                   DxfGroups& result, const DxfObjectFilter& filter = {});
 
 } // namespace workbench

@@ -81,14 +81,23 @@ std::vector<DxfLayout> layoutsIn(const DxfGroups& file)
     return result;
 }
 
+/// The layouts, the viewports, and what checkBlockNesting() looks at.
+bool isNeeded(std::string_view section, std::string_view type)
+{
+    return type == "SECTION" || type == "LAYOUT" || type == "VIEWPORT" ||
+           (section == "BLOCKS" && (type == "BLOCK" || type == "INSERT" || type == "DIMENSION"));
+}
+
 } // namespace
 
-std::vector<DxfLayout> readDxfLayouts(const OdString& fileName)
+std::vector<DxfLayout> readDxfLayouts(const OdString& fileName, const std::stop_token& stop)
 {
     try {
         DxfGroups file;
         loadDxfGroups(
-            pathOf(fileName), [](double) { return true; }, file);
+            pathOf(fileName), [&](double) { return !stop.stop_requested(); }, file, isNeeded);
+        if (file.cancelled)
+            return {};
         checkBlockNesting(file);
         return layoutsIn(file);
     } catch (const DxfError&) {

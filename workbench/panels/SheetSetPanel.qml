@@ -13,6 +13,13 @@ PanelPage {
 
     helpKey: "sheetsets"
 
+    // What is done by then isn't worth a sign.
+    Timer {
+        id: shortly
+
+        interval: 200
+        running: page.controller.isReading
+    }
     ColumnLayout {
         anchors.fill: parent
         spacing: Metrics.spacing
@@ -28,7 +35,7 @@ PanelPage {
             BusyIndicator {
                 implicitWidth: Metrics.controlHeight
                 implicitHeight: Metrics.controlHeight
-                visible: page.controller.isReading
+                visible: page.controller.isReading && !shortly.running
             }
             IconButton {
                 objectName: "addFolder"
@@ -75,6 +82,7 @@ PanelPage {
                 dragRole: "dragValid"
                 dropIsValid: index => page.controller.isDropValid(index)
                 onCurrentIndexChanged: page.controller.currentIndex = currentIndex
+                onClicked: index => page.controller.currentIndex = index
                 onActivated: index => {
                     if (!page.controller.activate(index))
                         rows.setOpen(currentRow, !isOpen(currentRow));
@@ -98,26 +106,38 @@ PanelPage {
                 text: qsTr("Add a folder to see its drawings and their layouts.")
             }
         }
-        // No layout: of one that isn't shown, Qt forgets to take out what goes.
-        Column {
-            id: missing
-
+        Flickable {
+            objectName: "missing"
             Layout.fillWidth: true
-            spacing: Metrics.spacing
+            implicitHeight: Math.min(missing.height, page.height / 4)
+            contentHeight: missing.height
             visible: page.controller.missingRoots.length > 0
+            clip: true
+            boundsBehavior: Flickable.StopAtBounds
+            ScrollBar.vertical: ScrollBar {
+                id: bar
+            }
 
-            Repeater {
-                model: page.controller.missingRoots
+            // No layout: of one that isn't shown, Qt forgets to take out what goes.
+            Column {
+                id: missing
 
-                SheetSetNote {
-                    required property string modelData
+                width: parent.width - (bar.size < 1 ? bar.width : 0)
+                spacing: Metrics.spacing
 
-                    objectName: "missing:" + modelData
-                    width: missing.width
-                    mark: "info"
-                    text: qsTr("Not found: %1").arg(modelData)
-                    action: qsTr("Remove the folder from the list")
-                    onDismissed: page.controller.removeRoot(modelData)
+                Repeater {
+                    model: page.controller.missingRoots
+
+                    SheetSetNote {
+                        required property string modelData
+
+                        objectName: "missing:" + modelData
+                        width: missing.width
+                        mark: "info"
+                        text: qsTr("Not found: %1").arg(modelData)
+                        action: qsTr("Remove the folder from the list")
+                        onDismissed: page.controller.removeRoot(modelData)
+                    }
                 }
             }
         }

@@ -34,8 +34,9 @@ QString parentOf(const QString& path)
 }
 } // namespace
 
-SheetSetController::SheetSetController(OdApDocManager& documents, std::unique_ptr<WatchedFolders> watcher)
-    : m_documents(documents), m_tree(std::move(watcher)), m_roots(load(rootsKey))
+SheetSetController::SheetSetController(OdApDocManager& documents, std::unique_ptr<WatchedFolders> watcher,
+                                       std::unique_ptr<SheetFiles> files)
+    : m_documents(documents), m_tree(std::move(watcher), std::move(files)), m_roots(load(rootsKey))
 {
     static_cast<WatchedFolders*>(m_tree.watcher())->onFull = [this] {
         warn(tr("The system can't watch any more folders. Those opened from now on show changes after Reload only."));
@@ -48,6 +49,8 @@ SheetSetController::SheetSetController(OdApDocManager& documents, std::unique_pt
     sort();
     connect(&m_tree, &QAbstractItemModel::modelReset, this, sort); // which loses it
     connect(&m_tree, &SheetSetTree::readingChanged, this, &SheetSetController::readingChanged);
+    connect(&m_tree, &SheetSetTree::found, this,
+            [this](const QModelIndex& row) { setCurrentIndex(m_sorted.mapFromSource(row)); });
 
     for (QTimer* timer : {&m_rootPause, &m_storePause}) {
         timer->setSingleShot(true);
@@ -77,6 +80,8 @@ void SheetSetController::documentBecameCurrent(OdApDocument* /*document*/)
 
 void SheetSetController::setCurrentIndex(const QModelIndex& index)
 {
+    if (!m_tree.isInTurn()) // otherwise a row has gone, and its neighbour takes its place
+        m_tree.seek({});
     if (index == m_current)
         return;
     m_current = index;
@@ -139,6 +144,11 @@ void SheetSetController::followRoots()
     for (const QString& root : present + present)
         if (!m_missing.contains(root) && !isShown(root))
             m_tree.addDirectory(root);
+    // One that couldn't be read, or was away for a moment.
+    const QStringList watched = m_tree.watcher()->directories();
+    for (const QString& root : std::as_const(m_roots))
+        if (!watched.contains(root))
+            m_tree.onDirectoryChanged(root);
     watchParents();
     Q_EMIT rootsChanged();
     Q_EMIT currentIndexChanged(); // a row may have become a root
@@ -194,21 +204,20 @@ void SheetSetController::goToDrawing()
         return;
     const QString drawing = velm::toQt(m_documents.curDocument()->fileName());
     addRoot(QFileInfo(drawing).path());
-    setCurrentIndex(reveal(drawing));
+    reveal(drawing);
 }
 
-QModelIndex SheetSetController::reveal(const QString& path)
+void SheetSetController::reveal(const QString& path)
 {
-    if (!isInRoot(path))
-        return {};
-    m_tree.open(path);
-    return m_sorted.mapFromSource(m_tree.index(path));
+    m_tree.seek(path);
 }
 
 void SheetSetController::reload()
 {
+    const QString current = m_tree.filePath(m_sorted.mapToSource(m_current));
     m_tree.reload();
     followRoots();
+    reveal(current);
 }
 
 bool SheetSetController::activate(const QModelIndex& index)
@@ -220,7 +229,7 @@ bool SheetSetController::activate(const QModelIndex& index)
     if (!show)
         return true;
     if (row.data(Tree::DragValidRole).toBool())
-        show(QFileInfo(path).path(), m_tree.shownBy(path));
+        m_tree.askForShown(path, [this, path](const Box& shown) { show(QFileInfo(path).path(), shown); });
     else
         show(path, {});
     return true;

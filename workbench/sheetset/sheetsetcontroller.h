@@ -26,13 +26,15 @@ class SheetSetController : public QObject, private OdApDocManagerReactor
 public:
     /// The documents outlive the controller.
     explicit SheetSetController(OdApDocManager& documents,
-                                std::unique_ptr<WatchedFolders> watcher = std::make_unique<WatchedFolders>());
+                                std::unique_ptr<WatchedFolders> watcher = std::make_unique<WatchedFolders>(),
+                                std::unique_ptr<SheetFiles> files = std::make_unique<SheetFiles>());
     ~SheetSetController() override;
 
     QAbstractItemModel* tree() { return &m_sorted; }
     SheetSetTree* source() { return &m_tree; }
     /// Of the sorted tree.
     QModelIndex currentIndex() const { return m_current; }
+    /// What the user chooses takes the place of what is to be revealed.
     void setCurrentIndex(const QModelIndex& index);
     /// Whether the current row is a root.
     bool canRemove() const { return m_current.isValid() && !m_current.parent().isValid(); }
@@ -46,8 +48,9 @@ public:
 
     /// False, with nothing added, for what is no folder or lies in a root. Roots that lie in the folder go.
     bool addRoot(const QString& folder);
-    /// The row of a path, its folders opened; invalid when no root holds it.
-    QModelIndex reveal(const QString& path);
+    /// Opens the folders of a path and makes its row the current one as soon as it is there, unless the user has
+    /// chosen another by then.
+    void reveal(const QString& path);
 
     /// Shows a drawing and, for a layout, a part of it: all for an empty box.
     std::function<void(const QString& drawing, std::optional<Box> shown)> show;
@@ -59,7 +62,7 @@ public:
 
 public Q_SLOTS:
     void askForFolder();
-    /// Adds the folder of the current drawing, when it is in no root, and makes the drawing's row the current one.
+    /// Adds the folder of the current drawing, when it is in no root, and reveals the drawing.
     void goToDrawing();
     void removeCurrent();
     void removeRoot(const QString& path);

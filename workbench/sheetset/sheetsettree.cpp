@@ -1,37 +1,42 @@
 #include "sheetset/sheetsettree.h"
 
 #include "sheetset/layoutdata.h"
+#include "sheetset/sheetsetreading.h"
 #include "velm/bridge/conversions.h"
 
-#include <QElapsedTimer>
-#include <QScopedValueRollback>
-
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 namespace workbench {
 namespace {
-constexpr int turn = 8;  // milliseconds of reading
-constexpr int pause = 2; // milliseconds, in which the window paints and takes clicks
+constexpr int pause = 2; // milliseconds between two turns, in which the window paints and takes clicks
 
-void forget(const QString& path, QSet<QString>& paths)
+/// How many there were.
+qsizetype forget(const QString& path, QSet<QString>& paths)
 {
-    paths.removeIf([&](const QString& other) { return other == path || isBelow(other, path); });
+    return paths.removeIf([&](const QString& other) { return other == path || isBelow(other, path); });
 }
 } // namespace
 
 bool isBelow(const QString& path, const QString& folder)
 {
-    return path.startsWith(folder.endsWith(u'/') ? folder : folder + u'/');
+    return path.size() > folder.size() && path.startsWith(folder) &&
+           (folder.endsWith(u'/') || path[folder.size()] == u'/');
 }
 
-SheetSetTree::SheetSetTree(std::unique_ptr<WatchedFolders> watcher)
-    : SheetSetFileSystemTreeModel(std::make_unique<velm::FileSystem>(), std::move(watcher))
+SheetSetTree::SheetSetTree(std::unique_ptr<WatchedFolders> watcher, std::unique_ptr<SheetFiles> files)
+    : SheetSetFileSystemTreeModel(std::move(files), std::move(watcher))
 {
     setNameFilters({QStringLiteral("*.dxf")});
     m_turn.setSingleShot(true);
     m_turn.setInterval(pause);
     connect(&m_turn, &QTimer::timeout, this, &SheetSetTree::readOn);
+    for (const Background* background : {&m_listing, &m_layouts.reading()})
+        connect(background, &Background::ready, this, [this] {
+            if (!m_turn.isActive())
+                readOn();
+        });
 }
 
 SheetSetTree::~SheetSetTree() = default;
@@ -44,13 +49,18 @@ QList<QString> SheetSetTree::getModelViewNames(const QString& drawingPath)
     return names;
 }
 
-Box SheetSetTree::shownBy(const QString& modelView)
+void SheetSetTree::askForShown(const QString& modelView, const std::function<void(const Box&)>& answer)
 {
     const QFileInfo path(modelView);
-    const OdString name = velm::odFromQt(path.fileName());
-    const std::vector<DxfLayout>& layouts = m_layouts.layouts(path.path());
-    const auto layout = std::ranges::find(layouts, name, &DxfLayout::name);
-    return layout == layouts.end() ? Box() : layout->shown;
+    const auto tell = [this, drawing = path.path(), name = velm::odFromQt(path.fileName()), answer] {
+        const std::vector<DxfLayout> layouts = m_layouts.layouts(drawing);
+        const auto layout = std::ranges::find(layouts, name, &DxfLayout::name);
+        answer(layout == layouts.end() ? Box() : layout->shown);
+    };
+    if (m_layouts.isKnown(path.path()))
+        tell();
+    else
+        m_layouts.read(path.path(), tell, std::numeric_limits<int>::max());
 }
 
 QModelIndex SheetSetTree::appendItem(const QModelIndex& parent, const QString& path)
@@ -59,8 +69,12 @@ QModelIndex SheetSetTree::appendItem(const QModelIndex& parent, const QString& p
     const bool isLayout = owner && !owner->isFolder() && !isModelView(path);
     const QModelIndex index = isLayout ? appendNode(parent, std::make_unique<LayoutData>(path, *this))
                                        : SheetSetFileSystemTreeModel::appendItem(parent, path);
-    if (index.isValid() && m_wanted.remove(path))
+    if (!index.isValid())
+        return index;
+    if (m_expanded.contains(path))
         setWantsToBeExpanded(index, true);
+    if (path == m_wanted || isBelow(m_wanted, path))
+        approach(index);
     return index;
 }
 
@@ -71,6 +85,9 @@ bool SheetSetTree::hasChildren(const QModelIndex& parent) const
 
 QVariant SheetSetTree::dataImpl(const QModelIndex& index, int role) const
 {
+    const bool tellsOfLock = role == IconRole || role == Qt::ToolTipRole;
+    if (tellsOfLock && m_locked.contains(filePath(index)))
+        return role == IconRole ? QStringLiteral("lock.svg") : tr("%1 can't be read.").arg(filePath(index));
     const QVariant value = SheetSetFileSystemTreeModel::dataImpl(index, role);
     // The root of a drive has no name.
     return role == Qt::DisplayRole && value.isValid() && value.toString().isEmpty() ? filePath(index) : value;
@@ -79,64 +96,67 @@ QVariant SheetSetTree::dataImpl(const QModelIndex& index, int role) const
 bool SheetSetTree::setData(const QModelIndex& index, const QVariant& value, int role)
 {
     const bool isSet = SheetSetFileSystemTreeModel::setData(index, value, role);
-    if (isSet && role == velm::getWantsToBeExpandedRole())
+    if (isSet && role == velm::getWantsToBeExpandedRole()) {
+        if (value.toBool())
+            m_expanded.insert(filePath(index));
+        else
+            m_expanded.remove(filePath(index));
         Q_EMIT expansionChanged();
+    }
     return isSet;
 }
 
-void SheetSetTree::fetchMore(const QModelIndex& parent)
+void SheetSetTree::setLocked(const QModelIndex& folder, bool isLocked)
 {
-    if (m_readsAtOnce) {
-        SheetSetFileSystemTreeModel::fetchMore(parent);
-    } else if (velm::ISheetSetFileSystemTreeData* data = nodeAt(parent)) {
-        m_readings.push_back({parent, data->fetchChildren()});
-        Q_EMIT readingChanged();
-        readOn();
-    }
-}
-
-void SheetSetTree::readOn()
-{
-    if (m_isInTurn)
+    const QString path = filePath(folder);
+    if (m_locked.contains(path) == isLocked)
         return;
-    {
-        const QScopedValueRollback inTurn(m_isInTurn, true);
-        QElapsedTimer timer;
-        timer.start();
-        while (!m_readings.empty() && timer.elapsed() < turn) {
-            // What was opened last is what the user looks at.
-            Reading& reading = m_readings.back();
-            if (reading.parent.isValid() && reading.next < reading.paths.size()) {
-                appendItem(reading.parent, reading.paths[reading.next++]);
-                continue;
-            }
-            const Reading ended = std::move(reading);
-            m_readings.pop_back();
-            end(ended);
-        }
-    }
-    if (isReading())
-        m_turn.start();
+    if (isLocked)
+        m_locked.insert(path);
     else
-        Q_EMIT readingChanged();
+        m_locked.remove(path);
+    signalChange(folder, {IconRole, Qt::ToolTipRole});
 }
 
-void SheetSetTree::end(const Reading& reading)
+/// The row of a path, or of as much of the way to it as there is.
+QModelIndex SheetSetTree::nearest(const QString& path) const
 {
-    if (reading.parent.isValid() && reading.isOutdated)
-        SheetSetFileSystemTreeModel::onDirectoryChanged(filePath(reading.parent));
-}
-
-void SheetSetTree::onDirectoryChanged(const QString& path)
-{
-    // A comparison would add what is still to be read.
-    for (Reading& reading : m_readings) {
-        if (filePath(reading.parent) != path)
-            continue;
-        reading.isOutdated = true;
-        return;
+    QModelIndex found;
+    for (int row = 0; row < rowCount(found);) {
+        const QModelIndex child = index(row, 0, found);
+        const QString& childPath = node(child)->path();
+        if (childPath == path)
+            return child;
+        const bool isOnTheWay = isBelow(path, childPath);
+        row = isOnTheWay ? 0 : row + 1;
+        if (isOnTheWay)
+            found = child;
     }
-    SheetSetFileSystemTreeModel::onDirectoryChanged(path);
+    return found;
+}
+
+void SheetSetTree::seek(const QString& path)
+{
+    m_wanted = path;
+    if (const QModelIndex row = path.isEmpty() ? QModelIndex() : nearest(path); row.isValid())
+        approach(row);
+    else
+        m_wanted.clear();
+}
+
+void SheetSetTree::approach(const QModelIndex& row)
+{
+    if (filePath(row) == m_wanted) {
+        m_wanted.clear();
+        Q_EMIT found(row);
+    } else if (canFetchMore(row)) {
+        fetchMore(row);
+    } else if (!readingOf(row)) {
+        if (node(row)->isFolder())
+            follow(row); // it may have come just now
+        else
+            m_wanted.clear();
+    }
 }
 
 bool SheetSetTree::deleteItem(const QModelIndex& parent, const QModelIndex& child)
@@ -148,16 +168,7 @@ bool SheetSetTree::deleteItem(const QModelIndex& parent, const QModelIndex& chil
     while (root.parent().isValid())
         root = root.parent();
     const bool comesBack = root == child || !fileSystem()->directoryExists(filePath(root));
-    if (comesBack)
-        std::as_const(*this).traverseTree(
-            [this](const QModelIndex& index) {
-                if (wantsToBeExpanded(index))
-                    m_wanted.insert(filePath(index));
-                return velm::TreeWalk::Continue;
-            },
-            child);
-    else
-        forget(path, m_wanted);
+    forget(path, m_locked);
     QStringList others = watcher()->directories();
     others.removeIf(
         [&](const QString& other) { return !other.contains(path) || other == path || isBelow(other, path); });
@@ -167,20 +178,11 @@ bool SheetSetTree::deleteItem(const QModelIndex& parent, const QModelIndex& chil
         watcher()->addPath(other);
         watcher()->onDirectoryChanged(other);
     }
-    if (!comesBack)
+    if (!comesBack && forget(path, m_expanded) > 0)
         Q_EMIT expansionChanged();
+    if (isReading())
+        m_turn.start(); // some may have ended with this
     return isDeleted;
-}
-
-QModelIndex SheetSetTree::open(const QString& path)
-{
-    const QScopedValueRollback atOnce(m_readsAtOnce, true);
-    for (Reading& reading : m_readings) {
-        const bool isOnTheWay = reading.parent.isValid() && path.startsWith(filePath(reading.parent));
-        while (isOnTheWay && reading.next < reading.paths.size())
-            appendItem(reading.parent, reading.paths[reading.next++]);
-    }
-    return fetchDirectory(path);
 }
 
 void SheetSetTree::reload()
@@ -188,37 +190,28 @@ void SheetSetTree::reload()
     QStringList roots;
     for (const QModelIndex& root : children({}))
         roots.append(filePath(root));
-    const QStringList expanded = expandedPaths();
-    const QSet<QString> unread = std::exchange(m_wanted, QSet<QString>(expanded.begin(), expanded.end()));
+    m_locked.clear();
     clear();
-    const QScopedValueRollback atOnce(m_readsAtOnce, true);
     for (const QString& root : std::as_const(roots))
         addDirectory(root);
-    // A folder comes before what is in it.
-    for (const QString& path : expanded)
-        if (const QModelIndex row = index(path); !unread.contains(path) && canFetchMore(row))
-            fetchMore(row);
+    m_turn.start();
 }
 
 void SheetSetTree::removeRoot(const QString& path)
 {
     removeDirectory(path);
-    forget(path, m_wanted);
+    forget(path, m_expanded);
 }
 
-QStringList SheetSetTree::expandedPaths()
+QStringList SheetSetTree::expandedPaths() const
 {
-    QList<QModelIndex> expanded;
-    saveExpandedState(expanded);
-    QStringList paths = m_wanted.values();
-    for (const QModelIndex& index : std::as_const(expanded))
-        paths.append(filePath(index));
+    QStringList paths = m_expanded.values();
     paths.sort();
     return paths;
 }
 
 void SheetSetTree::setExpandedPaths(const QStringList& paths)
 {
-    m_wanted = QSet<QString>(paths.begin(), paths.end());
+    m_expanded = QSet<QString>(paths.begin(), paths.end());
 }
 } // namespace workbench
