@@ -19,6 +19,7 @@ private Q_SLOTS:
     void cleanup();
     void aLineIsDrawnWithThePanel();
     void pointsArePickedInTheDrawing();
+    void theKeyboardGoesBackToThePanel();
     void aCircleIsTypedAndMeasured();
     void keysEndTheCommandFromThePanel();
     void theCommandGoesWithItsDrawing();
@@ -153,8 +154,9 @@ void CommandPanelTest::pointsArePickedInTheDrawing()
     QCOMPARE(m_driver.property("commandX", "enabled"), QVariant(true));
     QVERIFY(qAbs(drawn<OdDbLine>().back()->endPoint.x - 8) < 0.1);
     QVERIFY(qAbs(drawn<OdDbLine>().back()->startPoint.y - 4) < 0.1);
-    // What is typed goes on from there.
-    m_driver.type("@0,3\n");
+    m_driver.waitFor("the keyboard in the panel again", [&] { return m_driver.itemHasFocus("commandPick"); });
+    // What is typed at the command line goes on from there.
+    m_driver.command("@0,3");
     m_driver.waitFor("another line", [&] { return m_frame.canvas().drawnEntityCount() == 4; });
     m_driver.type("zoom\n");
     m_driver.waitFor("the whole drawing", [&] { return m_frame.canvas().isFitted(); });
@@ -213,6 +215,42 @@ void CommandPanelTest::keysEndTheCommandFromThePanel()
     m_driver.key("Escape");
     m_driver.waitFor("the panel", [&] { return !run().isPicking(); });
     m_driver.key("Escape");
+    waitForEnd();
+}
+
+void CommandPanelTest::theKeyboardGoesBackToThePanel()
+{
+    const auto waitForField = [this] {
+        m_driver.waitFor("the keyboard in the field", [&] { return m_driver.itemHasFocus("commandX"); });
+    };
+    startCommand("LINE");
+    m_driver.clickItem("commandX");
+    waitForField();
+    // From a click, which needs no picking, with the values of the next step.
+    m_driver.click(placeOf(2, 4));
+    m_driver.waitFor("the next step", [&] { return text("prompt") == "Next point"; });
+    waitForField();
+    m_driver.replaceText("7");
+    m_driver.waitFor("the text in the field", [&] { return text("commandX") == "7"; });
+    // From a picking that Escape ends.
+    m_driver.clickItem("commandPick");
+    m_driver.waitFor("the keyboard in the command line",
+                     [&] { return run().isPicking() && m_frame.commandLine().input()->HasFocus(); });
+    m_driver.key("Escape");
+    m_driver.waitFor("the keyboard in the panel", [&] { return m_driver.itemHasFocus("commandPick"); });
+    QVERIFY(m_driver.ask([&] { return !m_frame.commandLine().input()->HasFocus() && run().isRunning(); }));
+    // Enter picks again.
+    m_driver.key("Return");
+    m_driver.waitFor("the keyboard in the command line",
+                     [&] { return run().isPicking() && m_frame.commandLine().input()->HasFocus(); });
+    // A point that is typed leaves the keyboard where it was typed.
+    m_driver.type("8,1\n");
+    m_driver.waitFor("the line", [&] { return m_frame.canvas().drawnEntityCount() == 3; });
+    QVERIFY(m_driver.ask([&] { return m_frame.commandLine().input()->HasFocus(); }));
+    // So does a click of who was there.
+    m_driver.click(placeOf(8, 4));
+    m_driver.waitFor("another line", [&] { return m_frame.canvas().drawnEntityCount() == 4; });
+    m_driver.type("\n");
     waitForEnd();
 }
 

@@ -86,6 +86,11 @@ private Q_SLOTS:
         const auto* line = entity<OdDbLine>(result, 4);
         QVERIFY(line);
         QVERIFY((line->endPoint == OdGePoint3d{90, 60, 0}));
+        // A viewport is known, though it is no entity that is drawn.
+        const DxfReadResult sheet =
+            readText(drawing("0 VIEWPORT|67 1|8 0|69 2|40 20|41 10|0 LINE|10 0|20 0|11 1|21 1"));
+        QVERIFY(sheet.skipped.empty());
+        QCOMPARE(sheet.entityCount, 1);
     }
 
     void entitiesKeepTheirGeometry()
@@ -298,7 +303,7 @@ private Q_SLOTS:
         row("all of them", QByteArray("9 $CECOLOR|62 3|9 $CELTYPE|6 dots|9 $CELWEIGHT|370 50|9 $DIMSTYLE|2 Doors"),
             "3 Dots 50 Doors");
         row("none", QByteArray(), "256 ByLayer -1 Standard");
-        row("nonsense", QByteArray("9 $CECOLOR|62 999|9 $CELTYPE|6 No|9 $CELWEIGHT|370 9999|9 $DIMSTYLE|2 No"),
+        row("nonsense", "9 $CECOLOR|62 999|9 $CELTYPE|6 No|9 $CELWEIGHT|370 9999|9 $DIMSTYLE|2 No",
             "256 ByLayer -1 Standard");
     }
     void currentValuesComeFromTheHeader()

@@ -151,6 +151,38 @@ private Q_SLOTS:
         QVERIFY(!house.wall->isErased());
     }
 
+    void whatIsOnLockedLayersStays()
+    {
+        Fixture house;
+        OdDbLayerTableRecord* cars = house.database->findLayer(L"Cars");
+        cars->setIsLocked(true); // nothing is on it that could be locked
+        house.controller.fix();
+        QVERIFY(!house.database->findLayer(L"Cars"));
+
+        house.controller.setCurrentTask(1);
+        house.doors->setIsLocked(true);
+        house.controller.refresh();
+        QCOMPARE(house.findings().last(), "Line at 0.00, 0.00 | Layer Doors (locked), block Door");
+        QVERIFY(house.controller.advice().endsWith("On locked layers: 1, which stay."));
+        house.controller.select();
+        house.controller.fix();
+        QCOMPARE(house.fixed.last(), "Zero-length lines: 1 fixed, 1 left since their layers are locked");
+        QCOMPARE(house.findings().size(), 1);
+        QVERIFY(house.controller.hasFindings() && house.controller.canSelect() && !house.controller.canFix());
+
+        house.walls->setIsLocked(true);
+        house.controller.select();
+        house.controller.fix();
+        QCOMPARE(house.fixed.last(), "Zero-length lines: 0 fixed, 1 left since their layers are locked");
+        QCOMPARE(house.selection.entities().size(), size_t(1));
+        house.doors->setIsLocked(false);
+        house.controller.refresh();
+        QVERIFY(house.controller.canFix());
+        QVERIFY(!house.controller.advice().contains("locked"));
+        house.controller.fix();
+        QCOMPARE(house.fixed.last(), "Zero-length lines: 1 fixed");
+    }
+
     void rowsStayWhereNothingElseIsFound()
     {
         Fixture house;

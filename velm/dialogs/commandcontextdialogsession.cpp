@@ -43,11 +43,12 @@ CommandContextDialogSession::create(IGuiController& gui, const QUrl& page,
     options.modal = false;
     std::unique_ptr<Pimpl> pimpl(
         new Pimpl{gui.createDialog(page, controller.get(), nullptr, options, nullptr), &gui, controller});
-    if (pimpl->dialog) {
-        gui.addContextDialog(pimpl->dialog.get());
-        pimpl->dialog->show();
-    }
+    // From here on the dialog is taken from the host again, also when it can't be shown.
     std::shared_ptr<CommandContextDialogSession> session(new CommandContextDialogSession(std::move(pimpl)));
+    if (IHostDialog* dialog = session->m_pimpl->dialog.get()) {
+        gui.addContextDialog(dialog);
+        dialog->show();
+    }
     if (controller)
         controller->setSession(session);
     return session;

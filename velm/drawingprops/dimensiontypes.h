@@ -15,8 +15,6 @@ namespace velm {
 class VELM_EXPORT CDimensionTypeInfo
 {
 public:
-    virtual ~CDimensionTypeInfo() = default;
-
     virtual int number() const = 0;
     /// In the language of the wx catalogue; valid as long as the catalogue.
     virtual const wchar_t* name() const = 0;
@@ -27,6 +25,9 @@ public:
     void makeDisplayName(OdString& name) const;
     /// Turns the name of a style, whatever follows its last ":", into that of this kind's child in the drawing.
     void makeRecordName(OdString& name) const;
+
+protected:
+    ~CDimensionTypeInfo() = default; // none is ever deleted; the operations come first in the table of virtual ones
 };
 
 class VELM_EXPORT DimensionTypeDistance : public CDimensionTypeInfo

@@ -175,7 +175,8 @@ void LineTypeModel::setCurrentIndexOrLoad(int newIndex)
         else
             goBackTo(former);
     } else if (newIndex == m_propertiesRow && m_propertiesAction) {
-        m_propertiesAction();
+        const auto action = m_propertiesAction; // it may set another one
+        action();
         goBackTo(former);
     }
 }

@@ -6,6 +6,7 @@
 #include <QJSValue>
 
 #include <algorithm>
+#include <stdexcept>
 #include <utility>
 
 namespace velm {
@@ -29,6 +30,15 @@ QVariant suitableValue(QVariant value, const QVariant& defaultValue)
 QVariant withoutScript(const QVariant& value)
 {
     return value.metaType() == QMetaType::fromType<QJSValue>() ? value.value<QJSValue>().toVariant() : value;
+}
+
+FilterOperatorsModel::CategoryType operatorsCategory(const AbstractFilterPropertiesModel& properties, int propertyIndex)
+{
+    try {
+        return properties.getOperatorCategoryType(propertyIndex);
+    } catch (const std::out_of_range&) { // not every model answers for a property that it hasn't
+        return FilterOperatorsModel::NoCategory;
+    }
 }
 } // namespace
 
@@ -144,9 +154,8 @@ QVariant FilterTagsConjunctionModel::data(const QModelIndex& index, int role) co
         return tag.propertyIndex;
     case OperationRole:
         return tag.operation;
-    case OperatorsCategoryRole: // not every model answers for no property
-        return static_cast<int>(tag.propertyIndex < 0 ? FilterOperatorsModel::NoCategory
-                                                      : properties.getOperatorCategoryType(tag.propertyIndex));
+    case OperatorsCategoryRole:
+        return static_cast<int>(operatorsCategory(properties, tag.propertyIndex));
     case ValueRole:
         return tag.value;
     case DataRole: {

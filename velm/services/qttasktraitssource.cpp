@@ -60,11 +60,13 @@ const IQtTaskTraits& getQtTaskTraits(oc::dwghealth::ETaskType type)
 {
     static const EmptyQtTaskTraits empty;
     if (registry().traits.empty()) {
-        // A copy: a source may make others, and end them.
-        const std::set<QtTaskTraitsSource*> sources = registry().sources;
-        for (QtTaskTraitsSource* source : sources)
-            if (registry().sources.contains(source))
-                source->initTraits();
+        // A source may make others, and end them or itself.
+        const std::set<QtTaskTraitsSource*>& sources = registry().sources;
+        for (auto next = sources.begin(); next != sources.end();) {
+            QtTaskTraitsSource* const source = *next;
+            source->initTraits();
+            next = sources.upper_bound(source);
+        }
     }
     const auto entry = registry().traits.find(type);
     if (entry == registry().traits.end() || entry->second == nullptr)

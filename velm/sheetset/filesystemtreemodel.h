@@ -167,11 +167,13 @@ public:
                 gone.append(child.row());
             known.insert(childPath);
         }
+        // Whoever hears of a change may have taken the directory away, or changed its rows.
         for (const QString& entry : now)
-            if (!known.contains(entry))
+            if (directory.isValid() && !known.contains(entry))
                 appendItem(directory, entry);
         for (const int row : gone | std::views::reverse) {
-            // Whoever heard of the others may have changed rows.
+            if (!directory.isValid())
+                return;
             const std::optional<QModelIndex> child = this->child(directory, row);
             if (child && child->isValid() && !present.contains(filePath(*child)))
                 deleteItem(directory, *child);

@@ -5,6 +5,8 @@
 #include <unordered_set>
 
 namespace velm {
+template class FileSystemTreeModel<ISheetSetFileSystemTreeData>;
+
 SheetSetFileSystemTreeModel::SheetSetFileSystemTreeModel(std::unique_ptr<IFileSystem> fileSystem,
                                                          std::unique_ptr<IFileSystemWatcher> watcher)
     : FileSystemTreeModel(std::move(fileSystem), std::move(watcher))

@@ -7,6 +7,8 @@
 #include <unordered_map>
 
 namespace velm {
+extern template class VELM_EXPORT FileSystemTreeModel<ISheetSetFileSystemTreeData>;
+
 /// Folders, drawings and the model views in drawings. A model view has the path of its drawing with its own name
 /// behind. The host derives its model from this one.
 class VELM_EXPORT SheetSetFileSystemTreeModel : public FileSystemTreeModel<ISheetSetFileSystemTreeData>,

@@ -106,9 +106,9 @@ void ColumnContextMenuModel::setSourceColumnVisible(int sourceColumn, bool visib
 
 void ColumnContextMenuModel::trigger(int actionIndex, int columnIndex)
 {
-    if (actionIndex < firstAction() || actionIndex >= rowCount())
+    const qint64 place = qint64(actionIndex) - firstAction();
+    if (place < 0 || place >= std::ssize(m_actions))
         return;
-    const int place = actionIndex - firstAction();
     // On a copy: the action may change the menu.
     if (const auto handler = m_actions[static_cast<std::size_t>(place)].handler)
         handler(columnIndex);

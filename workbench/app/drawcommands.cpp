@@ -3,6 +3,7 @@
 #include "app/mainframe.h"
 #include "command/commandline.h"
 #include "drawing/drawingcanvas.h"
+#include "host/contextarea.h"
 #include "od/oddbdatabase.h"
 #include "steps/circlecommand.h"
 #include "steps/linecommand.h"
@@ -21,6 +22,32 @@ void add(Commands& commands, MainFrame& frame, const wxString& name, const wxStr
             frame.commandLine().log(_("No drawing is open."));
     });
 }
+
+/// To the panel only as long as a command runs that doesn't wait for the drawing.
+void giveKeyboard(MainFrame& frame, bool toPanel)
+{
+    if (toPanel && frame.commandRun().isRunning() && !frame.commandRun().isPicking())
+        frame.contextArea().takeKeyboard();
+    else
+        frame.commandLine().input()->SetFocus();
+}
+
+/// A click in the drawing leaves the keyboard with the panel when the person came from there. What is typed after any
+/// other click is a command.
+void connectClicks(MainFrame& frame)
+{
+    const auto cameFromPanel = std::make_shared<bool>(false);
+    const auto note = [&frame, cameFromPanel](wxMouseEvent& event) {
+        *cameFromPanel = frame.commandRun().isPicking() || frame.contextArea().hasKeyboard();
+        event.Skip();
+    };
+    frame.canvas().Bind(wxEVT_LEFT_DOWN, note);
+    frame.canvas().Bind(wxEVT_LEFT_DCLICK, note);
+    frame.canvas().Bind(wxEVT_LEFT_UP, [&frame, cameFromPanel](wxMouseEvent& event) {
+        giveKeyboard(frame, *cameFromPanel);
+        event.Skip();
+    });
+}
 } // namespace
 
 void addDrawCommands(Commands& commands, MainFrame& frame)
@@ -34,14 +61,14 @@ void addDrawCommands(Commands& commands, MainFrame& frame)
 void connectCommandRun(Commands& commands, MainFrame& frame)
 {
     CommandRun& run = frame.commandRun();
-    const auto giveKeyboard = [&frame] {
-        frame.commandLine().input()->SetFocus();
+    const auto toCommandLine = [&frame] {
+        giveKeyboard(frame, false);
         frame.canvas().Refresh();
     };
     run.log = [&frame](const wxString& line) { frame.commandLine().log(line); };
     run.onDrawingChanged = [&frame] { frame.drawingChanged(); };
-    run.onPicking = giveKeyboard;
-    run.onEnded = giveKeyboard;
+    run.onPicking = toCommandLine;
+    run.onEnded = toCommandLine;
     frame.commandLine().onCommand = [&commands, &frame, &run](const wxString& line) {
         if (run.takeLine(line) || commands.run(line))
             return;
@@ -56,5 +83,13 @@ void connectCommandRun(Commands& commands, MainFrame& frame)
     };
     frame.canvas().onPoint = [&run](const OdGePoint3d& point) { return run.takePoint(point); };
     frame.canvas().rubberBand = [&run](const OdGePoint3d& cursor) { return run.preview(cursor); };
+    connectClicks(frame);
+}
+
+void escapeCommand(MainFrame& frame)
+{
+    const bool wasPicking = frame.commandRun().isPicking();
+    frame.commandLine().processEscape();
+    giveKeyboard(frame, wasPicking);
 }
 } // namespace workbench

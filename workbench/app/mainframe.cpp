@@ -83,8 +83,7 @@ MainFrame::MainFrame(VelmSession& session, HostServices& services, PageGroup& pa
     // Escape reaches the command line from wherever the keyboard is, also from a page that has no use for it.
     Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) {
         if (event.GetKeyCode() == WXK_ESCAPE && event.GetModifiers() == wxMOD_NONE) {
-            m_commandLine->processEscape();
-            m_commandLine->input()->SetFocus();
+            escapeCommand(*this);
         } else if (event.GetKeyCode() == WXK_TAB && event.ControlDown() && !event.AltDown()) {
             m_documents.next(!event.ShiftDown()); // no menu of this toolkit takes such a key
         } else {
@@ -133,6 +132,7 @@ void MainFrame::build()
     auto* pane =
         new DrawingPane(m_tableSplitter, m_pages, m_services.documents(), &m_currentProperties, &m_openDrawings);
     m_canvas = &pane->canvas();
+    m_contextArea = &pane->contextArea();
     m_canvas->background = [] { return wxGuiColour(ut::EGuiColor::Grey0); };
     m_canvas->accent = [] { return wxGuiColour(ut::EGuiColor::BlueHighlight); };
     m_commandLine = new CommandLine(m_lowerSplitter);
@@ -176,8 +176,8 @@ void MainFrame::build()
     addMenus(*this, actions);
     m_toolBar = new FrameToolBar(*this, actions);
     SetToolBar(m_toolBar);
-    m_services.gui().setContextArea(&pane->contextArea());
-    pane->contextArea().setAcceleratorTable(shortcuts(*GetMenuBar()));
+    m_services.gui().setContextArea(m_contextArea);
+    m_contextArea->setAcceleratorTable(shortcuts(*GetMenuBar()));
     for (PagePanel* page : m_pages.pages())
         page->setAcceleratorTable(shortcuts(*GetMenuBar()));
     CreateStatusBar(3, wxSTB_DEFAULT_STYLE & ~wxSTB_SIZEGRIP);
@@ -222,11 +222,6 @@ void MainFrame::connectCanvas()
 {
     m_canvas->onCursorMoved = [this](const OdGePoint3d& point) { showCursor(point); };
     m_canvas->onPicked = [this](OdDbObjectId entity) { m_selection.set(entity); };
-    m_canvas->Bind(wxEVT_LEFT_UP, [this](wxMouseEvent& event) {
-        // What is typed next is a command.
-        m_commandLine->input()->SetFocus();
-        event.Skip();
-    });
     QObject::connect(&m_selection, &Selection::changed, &m_selection,
                      [this] { m_canvas->setHighlighted(m_selection.entities()); });
     QObject::connect(&filter(), &FilterController::matchesFound, &m_selection,

@@ -28,6 +28,7 @@ class wxSplitterWindow;
 namespace workbench {
 class CanvasTip;
 class CommandLine;
+class ContextArea;
 class DrawingCanvas;
 class FrameToolBar;
 class HostServices;
@@ -56,6 +57,8 @@ public:
     Documents& documents() { return m_documents; }
     Selection& selection() { return m_selection; }
     DrawingCanvas& canvas() { return *m_canvas; }
+    /// The place of the running command's panel.
+    ContextArea& contextArea() { return *m_contextArea; }
     CommandLine& commandLine() { return *m_commandLine; }
     /// The command that runs step by step.
     CommandRun& commandRun() { return m_commandRun; }
@@ -122,6 +125,7 @@ private:
     std::unique_ptr<CanvasTip> m_canvasTip;
     // All owned by the window tree.
     DrawingCanvas* m_canvas = nullptr;
+    ContextArea* m_contextArea = nullptr;
     CommandLine* m_commandLine = nullptr;
     FrameToolBar* m_toolBar = nullptr;
     wxNotebook* m_panels = nullptr;

@@ -1,10 +1,10 @@
 #include "drawing/databasebuilder.h"
 
 #include "drawing/dxftext.h"
+#include "drawing/dxfvalues.h"
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <numbers>
 
@@ -13,43 +13,6 @@ namespace workbench {
 namespace {
 
 constexpr double degree = std::numbers::pi / 180.0;
-
-/// What is no index counts as by layer.
-OdCmColor colorOf(int index)
-{
-    return OdCmColor::fromIndex(static_cast<std::uint16_t>(index < 0 || index > 256 ? 256 : index));
-}
-
-/// The colour of an entity or a layer.
-OdCmColor colorOf(const DL_Attributes& attributes)
-{
-    if (const int rgb = attributes.getColor24(); rgb >= 0)
-        return OdCmColor::fromRGB((rgb >> 16) & 0xFF, (rgb >> 8) & 0xFF, rgb & 0xFF);
-    return colorOf(attributes.getColor());
-}
-
-/// What is no lineweight counts as by layer.
-int lineWeightOf(const std::string& value)
-{
-    int weight = OdDb::kLnWtByLayer;
-    std::from_chars(value.data(), value.data() + value.size(), weight);
-    return weight < OdDb::kLnWtByLwDefault || weight > 211 ? OdDb::kLnWtByLayer : weight;
-}
-
-/// The method stands in the highest byte, and the opacity from 0 to 255 in the lowest.
-int transparencyOf(std::string_view value)
-{
-    std::uint32_t packed = 0;
-    std::from_chars(value.data(), value.data() + value.size(), packed);
-    switch (packed >> 24) {
-    case 1:
-        return OdDb::kTransparencyByBlock;
-    case 2:
-        return std::clamp(100 - static_cast<int>(std::lround((packed & 0xFF) / 2.55)), 0, 90);
-    default:
-        return OdDb::kTransparencyByLayer;
-    }
-}
 
 bool isNamed(const std::string& name, const wchar_t* expected)
 {

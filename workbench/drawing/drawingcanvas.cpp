@@ -22,7 +22,7 @@ DrawingCanvas::DrawingCanvas(wxWindow* parent)
         m_view.size = GetClientSize();
         if (m_isFitted)
             fit();
-        Refresh();
+        repaint();
         event.Skip();
     });
     Bind(wxEVT_MOUSEWHEEL, [this](wxMouseEvent& event) {
@@ -65,14 +65,14 @@ void DrawingCanvas::setDatabase(OdDbDatabase* database)
 void DrawingCanvas::refreshDrawing()
 {
     m_tessellation = m_database ? tessellate(*m_database) : Tessellation();
-    Refresh();
+    repaint();
 }
 
 void DrawingCanvas::zoomExtents()
 {
     m_isFitted = true;
     fit();
-    Refresh();
+    repaint();
 }
 
 /// Which entities of the model space these are, by their places there; empty without any.
@@ -121,7 +121,7 @@ void DrawingCanvas::zoomTo(const Box& box)
     }
     m_isFitted = false;
     fit(box);
-    Refresh();
+    repaint();
 }
 
 void DrawingCanvas::fit(const Box& box)
@@ -135,7 +135,7 @@ void DrawingCanvas::setView(const DrawingView& view)
     m_view.center = view.center;
     m_view.scale = view.scale;
     m_isFitted = false;
-    Refresh();
+    repaint();
 }
 
 void DrawingCanvas::zoomBy(double factor, wxPoint center)
@@ -150,7 +150,7 @@ void DrawingCanvas::zoomBy(double factor, wxPoint center)
     const OdGePoint3d moved = m_view.toWorld(center.x, center.y);
     m_view.center = m_view.center + (fixed - moved);
     m_isFitted = false;
-    Refresh();
+    repaint();
 }
 
 void DrawingCanvas::panBy(wxPoint pixels)
@@ -158,7 +158,7 @@ void DrawingCanvas::panBy(wxPoint pixels)
     m_view.center.x -= pixels.x / m_view.scale;
     m_view.center.y += pixels.y / m_view.scale;
     m_isFitted = false;
-    Refresh();
+    repaint();
 }
 
 OdDbObjectId DrawingCanvas::entityAt(wxPoint position) const
@@ -172,33 +172,49 @@ OdDbObjectId DrawingCanvas::entityAt(wxPoint position) const
 void DrawingCanvas::setHighlighted(const std::vector<OdDbObjectId>& entities)
 {
     m_highlighted = places(entities);
-    Refresh();
+    repaint();
 }
 
 void DrawingCanvas::showGrid(bool shown)
 {
     m_isGridShown = shown;
-    Refresh();
+    repaint();
 }
 
-wxColour DrawingCanvas::accentColour() const
+void DrawingCanvas::repaint()
 {
-    return accent ? accent() : wxColour(0, 120, 215);
+    m_picture.bitmap = wxBitmap();
+    Refresh();
 }
 
 void DrawingCanvas::paint()
 {
+    const wxColour backgroundColour = background ? background() : wxColour(33, 37, 41);
+    const wxColour accentColour = accent ? accent() : wxColour(0, 120, 215);
+    if (!m_picture.bitmap.IsOk() || m_picture.background != backgroundColour || m_picture.accent != accentColour ||
+        m_picture.bitmap.GetScaleFactor() != GetContentScaleFactor())
+        paintPicture(backgroundColour, accentColour);
     wxAutoBufferedPaintDC dc(this);
-    const wxColour colour = background ? background() : wxColour(33, 37, 41);
-    dc.SetBackground(wxBrush(colour));
+    dc.DrawBitmap(m_picture.bitmap, 0, 0);
+    paintRubberBand(*std::unique_ptr<wxGraphicsContext>(wxGraphicsContext::Create(dc)));
+}
+
+void DrawingCanvas::paintPicture(const wxColour& backgroundColour, const wxColour& accentColour)
+{
+    wxSize size = m_view.size;
+    size.IncTo(wxSize(1, 1));
+    m_picture = {wxBitmap(), backgroundColour, accentColour};
+    m_picture.bitmap.CreateWithDIPSize(size, GetContentScaleFactor());
+    wxMemoryDC dc(m_picture.bitmap);
+    dc.SetBackground(wxBrush(backgroundColour));
     dc.Clear();
     const std::unique_ptr<wxGraphicsContext> context(wxGraphicsContext::Create(dc));
     if (m_isGridShown && m_database)
-        paintGrid(*context, m_view, colour);
-    m_drawnEntityCount = DrawingPainter(*context, m_view, colour).paint(m_tessellation);
+        paintGrid(*context, m_view, backgroundColour);
+    m_drawnEntityCount = DrawingPainter(*context, m_view, backgroundColour).paint(m_tessellation);
     if (!m_highlighted.empty())
-        DrawingPainter(*context, m_view, colour).paintHighlight(m_tessellation, m_highlighted, accentColour());
-    paintRubberBand(*context);
+        DrawingPainter(*context, m_view, backgroundColour).paintHighlight(m_tessellation, m_highlighted, accentColour);
+    ++m_paintCount;
 }
 
 void DrawingCanvas::trackMouse(wxMouseEvent& event)
@@ -243,7 +259,7 @@ void DrawingCanvas::paintRubberBand(wxGraphicsContext& context) const
         places.push_back(m_view.toScreen(point.x, point.y));
     if (places.empty())
         return;
-    context.SetPen(context.CreatePen(wxGraphicsPenInfo(accentColour(), 2).Style(wxPENSTYLE_SHORT_DASH)));
+    context.SetPen(context.CreatePen(wxGraphicsPenInfo(m_picture.accent, 2).Style(wxPENSTYLE_SHORT_DASH)));
     context.StrokeLines(places.size(), places.data());
 }
 

@@ -2,6 +2,7 @@
 
 #include "drawing/drawingpainter.h"
 
+#include <wx/bitmap.h>
 #include <wx/panel.h>
 
 #include <functional>
@@ -12,7 +13,8 @@ namespace workbench {
 /// Shows the model space of a drawing. The wheel zooms about the cursor; the middle button, or the left one with the
 /// space bar held, pans; a double click of the middle button shows everything. As long as the user hasn't moved the
 /// view, it stays fitted to the drawing when the size changes. A click of the left or the right button picks the entity
-/// under it. A command may take the clicks as points instead; then the line that would come follows the cursor.
+/// under it. A command may take the clicks as points instead; then the line that would come follows the cursor. The
+/// drawing is painted only when something of it has changed, and kept as a picture.
 class DrawingCanvas : public wxPanel
 {
 public:
@@ -50,8 +52,10 @@ public:
     void setView(const DrawingView& view);
     /// Whether all of the drawing is shown, since nobody has moved the view.
     bool isFitted() const { return m_isFitted; }
-    /// How many entities of the model space the last paint drew.
+    /// How many entities of the model space the last painting of the drawing drew.
     std::size_t drawnEntityCount() const { return m_drawnEntityCount; }
+    /// How often the drawing was painted; what follows the cursor comes above it without.
+    std::size_t paintCount() const { return m_paintCount; }
 
     std::function<void(const OdGePoint3d&)> onCursorMoved; ///< in the coordinates of the drawing
     std::function<bool(const OdGePoint3d&)> onPoint;       ///< asked before a left click picks; true when it is used up
@@ -63,11 +67,20 @@ public:
     std::function<wxColour()> accent;     ///< the selected entities', asked at each paint
 
 private:
+    /// The canvas without what follows the cursor.
+    struct Picture
+    {
+        wxBitmap bitmap; // invalid when something has changed since
+        wxColour background;
+        wxColour accent;
+    };
+
     void fit() { fit(m_tessellation.box); }
     void fit(const Box& box);
     std::vector<bool> places(const std::vector<OdDbObjectId>& entities) const;
-    wxColour accentColour() const;
+    void repaint();
     void paint();
+    void paintPicture(const wxColour& backgroundColour, const wxColour& accentColour);
     void trackMouse(wxMouseEvent& event);
     void pickAt(wxPoint position);
     OdGePoint3d cursorAt(wxPoint position) const;
@@ -85,7 +98,9 @@ private:
     bool m_isPanning = false;
     wxPoint m_lastMouse;
     std::optional<OdGePoint3d> m_cursor; // while the mouse is over the canvas
+    Picture m_picture;
     std::size_t m_drawnEntityCount = 0;
+    std::size_t m_paintCount = 0;
 };
 
 } // namespace workbench

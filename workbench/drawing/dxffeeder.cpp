@@ -95,7 +95,8 @@ void DxfFeeder::feedEntity(const Range& range, std::string_view type)
     if (type == "DIMENSION" && !valueOf(groupsOf(range), 2).empty()) {
         feedDimension(range);
     } else if (!isBlockMark && !isEntity(type)) {
-        ++m_skipped[std::string(type)];
+        if (type != "VIEWPORT") // a part of a layout, which is read by who wants it
+            ++m_skipped[std::string(type)];
         feedGroup(0, "SKIPPED");
     } else {
         feedGroup(0, type);

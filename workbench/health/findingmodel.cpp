@@ -21,7 +21,10 @@ QString placeOf(const OdDbLine& line)
 /// The layer, and the block or sheet unless it is the model.
 QString surroundings(const OdDbEntity& entity)
 {
-    const QString layer = FindingModel::tr("Layer %1").arg(nameOf(entity.layerId()));
+    const auto* itsLayer = entity.layerId().open<OdDbLayerTableRecord>();
+    const QString layer =
+        (itsLayer && itsLayer->isLocked() ? FindingModel::tr("Layer %1 (locked)") : FindingModel::tr("Layer %1"))
+            .arg(nameOf(entity.layerId()));
     const auto* block = entity.ownerId().open<OdDbBlockTableRecord>();
     if (!block || block == entity.database()->modelSpace())
         return layer;

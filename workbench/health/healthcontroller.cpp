@@ -1,9 +1,12 @@
 #include "health/healthcontroller.h"
 
 #include "drawing/selection.h"
+#include "health/healthtasks.h"
 #include "od/oddbdatabase.h"
 #include "velm/bridge/externalfunctions.h"
 #include "velm/services/iqttasktraits.h"
+
+#include <algorithm>
 
 namespace workbench {
 namespace {
@@ -44,6 +47,7 @@ void HealthController::showFindings()
 {
     const HealthTask* task = m_tasks.getItem(m_currentTask);
     m_findings.show(task ? task->findings : std::vector<OdDbObjectId>());
+    m_fixableCount = static_cast<int>(std::ranges::count_if(m_findings.getItems(), isFixable));
     Q_EMIT changed();
 }
 
@@ -67,7 +71,9 @@ QString HealthController::description() const
 
 QString HealthController::advice() const
 {
-    return traitsOf(m_tasks.getItem(m_currentTask)).traitText3();
+    const QString advice = traitsOf(m_tasks.getItem(m_currentTask)).traitText3();
+    const int locked = m_findings.size() - m_fixableCount;
+    return locked > 0 ? tr("%1 On locked layers: %2, which stay.").arg(advice).arg(locked) : advice;
 }
 
 bool HealthController::isWanted() const
@@ -103,15 +109,18 @@ void HealthController::fix()
 {
     // What was found may have come to use since.
     refresh();
-    const std::vector<OdDbObjectId> findings = m_findings.getItems();
-    if (findings.empty())
+    if (!hasFindings())
         return;
-    for (const OdDbObjectId& finding : findings)
-        finding.openObject()->erase();
-    m_selection.clear();
-    const QString what = tr("%1: %2 fixed").arg(title()).arg(findings.size());
+    const int fixed = m_fixableCount;
+    for (const OdDbObjectId& finding : std::vector(m_findings.getItems()))
+        if (isFixable(finding))
+            finding.openObject()->erase();
+    if (fixed > 0)
+        m_selection.clear();
     refresh();
+    const QString what = tr("%1: %2 fixed").arg(title()).arg(fixed);
     if (onFixed)
-        onFixed(what);
+        onFixed(hasFindings() ? tr("%1, %2 left since their layers are locked").arg(what).arg(m_findings.size())
+                              : what);
 }
 } // namespace workbench

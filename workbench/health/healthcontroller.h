@@ -22,6 +22,7 @@ class HealthController : public QObject, private OdApDocManagerReactor
     Q_PROPERTY(QString advice READ advice NOTIFY changed)
     Q_PROPERTY(bool hasDrawing READ hasDrawing NOTIFY changed)
     Q_PROPERTY(bool isWanted READ isWanted NOTIFY changed)
+    Q_PROPERTY(bool hasFindings READ hasFindings NOTIFY changed)
     Q_PROPERTY(bool canSelect READ canSelect NOTIFY changed)
     Q_PROPERTY(bool canFix READ canFix NOTIFY changed)
 public:
@@ -41,7 +42,9 @@ public:
     /// Whether the current task is looked for at all.
     bool isWanted() const;
     bool canSelect() const;
-    bool canFix() const { return m_findings.size() > 0; }
+    bool hasFindings() const { return m_findings.size() > 0; }
+    /// Whether anything of it isn't on a locked layer.
+    bool canFix() const { return m_fixableCount > 0; }
 
     /// To call after a change of the drawing.
     void refresh();
@@ -54,7 +57,7 @@ public Q_SLOTS:
     void select();
     /// The same with one of them.
     void selectFinding(int row);
-    /// Erases all that the current task finds.
+    /// Erases all that the current task finds but for what is on locked layers.
     void fix();
 
 Q_SIGNALS:
@@ -70,5 +73,6 @@ private:
     HealthTaskModel m_tasks;
     FindingModel m_findings;
     int m_currentTask = 0;
+    int m_fixableCount = 0; // of the findings
 };
 } // namespace workbench

@@ -54,4 +54,11 @@ std::vector<OdDbObjectId> healthFindings(oc::dwghealth::ETaskType type, const Od
     }
     return {};
 }
+
+bool isFixable(OdDbObjectId finding)
+{
+    const auto* entity = finding.open<OdDbEntity>();
+    const auto* layer = entity ? entity->layerId().open<OdDbLayerTableRecord>() : nullptr;
+    return !layer || !layer->isLocked();
+}
 } // namespace workbench

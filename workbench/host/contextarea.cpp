@@ -1,5 +1,6 @@
 #include "host/contextarea.h"
 
+#include "host/nativewindow.h"
 #include "host/pagepanel.h"
 #include "host/pageview.h"
 #include "velm/dialogs/basedialogcontroller.h"
@@ -71,5 +72,20 @@ void ContextArea::showArea(bool shown)
 {
     Show(shown);
     GetParent()->Layout();
+}
+
+bool ContextArea::hasKeyboard() const
+{
+    for (const wxWindow* panel : GetChildren())
+        if (native::isFocusWidget(*panel))
+            return true;
+    return false;
+}
+
+void ContextArea::takeKeyboard()
+{
+    // A page that has gone leaves its hidden window for a while.
+    if (!GetSizer()->IsEmpty())
+        GetSizer()->GetItem(GetSizer()->GetItemCount() - 1)->GetWindow()->SetFocus();
 }
 } // namespace workbench

@@ -28,6 +28,10 @@ public:
     /// A page in the area instead of a window. The controller outlives what is given.
     std::unique_ptr<velm::IHostDialog> createPanel(const QUrl& page, velm::BaseDialogController& controller);
     void showArea(bool shown);
+    /// Whether one of the pages has the keyboard.
+    bool hasKeyboard() const;
+    /// Gives the keyboard back to the page that came last; without a page nothing happens.
+    void takeKeyboard();
 
 private:
     PageGroup& m_pages;

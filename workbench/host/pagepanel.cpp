@@ -89,6 +89,7 @@ void PagePanel::fitView()
 void PagePanel::reload(int)
 {
     m_error.clear();
+    m_errorSource.clear();
     m_view->setRoot(nullptr);
     QQmlEngine* engine = m_group.engine();
     if (!engine)
@@ -99,10 +100,11 @@ void PagePanel::reload(int)
     QVariantMap properties;
     if (m_controller)
         properties.insert(QStringLiteral("controller"), QVariant::fromValue(m_controller.data()));
-    auto [root, error] = loadPage(*engine, m_page, properties);
-    m_error = error;
-    if (root)
-        m_view->setRoot(std::move(root));
+    LoadedPage loaded = loadPage(*engine, m_page, properties);
+    m_error = loaded.error;
+    m_errorSource = loaded.source;
+    if (loaded.root)
+        m_view->setRoot(std::move(loaded.root));
     else
         showNote();
     if (onLoaded)
@@ -113,6 +115,7 @@ void PagePanel::showNote()
 {
     const QVariantMap properties{{QStringLiteral("page"), m_page.toString()},
                                  {QStringLiteral("reason"), m_error},
+                                 {QStringLiteral("source"), m_errorSource},
                                  {QStringLiteral("textColor"), qtGuiColour(ut::EGuiColor::Grey10)},
                                  {QStringLiteral("warningColor"), qtGuiColour(ut::EGuiColor::Red)}};
     m_view->setRoot(

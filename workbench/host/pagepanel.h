@@ -62,6 +62,7 @@ private:
     QUrl m_page;
     QPointer<QObject> m_controller; // not owned
     QString m_error;
+    QString m_errorSource;
     wxAcceleratorTable m_accelerators;
     std::unique_ptr<QWindow> m_nativeParent;
     std::unique_ptr<PageView> m_view;

@@ -78,8 +78,8 @@ PanelPage {
     component PushButton: Button {
         Layout.fillWidth: true
         Layout.preferredWidth: 1
-        Keys.onReturnPressed: click()
-        Keys.onEnterPressed: click()
+        Keys.onReturnPressed: clicked()
+        Keys.onEnterPressed: clicked()
     }
 
     ColumnLayout {

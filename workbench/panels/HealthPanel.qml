@@ -56,7 +56,7 @@ PanelPage {
 
                     objectName: "findings"
                     anchors.fill: parent
-                    visible: page.controller.canFix
+                    visible: page.controller.hasFindings
                     activeFocusOnTab: true
                     textRole: "display"
                     model: page.controller.findings
@@ -69,7 +69,7 @@ PanelPage {
                     objectName: "nothingFound"
                     anchors.centerIn: parent
                     width: Math.min(parent.width, implicitWidth)
-                    visible: !page.controller.canFix
+                    visible: !page.controller.hasFindings
                     mark: !page.controller.hasDrawing ? "folder" : page.controller.isWanted ? "check" : "info"
                     text: !page.controller.hasDrawing ? qsTr("Open a drawing to see how it is.") : page.controller.isWanted ? qsTr("The drawing has none.") : qsTr("This isn't looked for.")
                 }
@@ -78,9 +78,10 @@ PanelPage {
                 spacing: Metrics.spacing
 
                 Label {
+                    objectName: "healthAdvice"
                     Layout.fillWidth: true
-                    text: page.controller.canFix ? page.controller.advice : ""
-                    elide: Text.ElideRight
+                    text: page.controller.hasFindings ? page.controller.advice : ""
+                    wrapMode: Text.Wrap
                 }
                 Button {
                     objectName: "selectFindings"

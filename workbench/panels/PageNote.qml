@@ -6,6 +6,7 @@ Item {
 
     required property string page
     required property string reason
+    required property string source
     required property color textColor
     required property color warningColor
 
@@ -46,6 +47,17 @@ Item {
                 color: note.textColor
                 font.pointSize: 9
                 wrapMode: Text.Wrap
+            }
+            Text {
+                objectName: "noteSource"
+                width: parent.width
+                visible: text !== ""
+                text: note.source
+                textFormat: Text.PlainText
+                color: note.textColor
+                font.family: "monospace"
+                font.pointSize: 9
+                wrapMode: Text.WrapAnywhere
             }
         }
     }

@@ -9,6 +9,7 @@
 #include "host/pageview.h"
 #include "tour/finditem.h"
 #include "tour/presscounter.h"
+#include "tour/xdotool.h"
 #include "velm/bridge/conversions.h"
 
 #include <QAbstractItemModel>
@@ -16,7 +17,6 @@
 #include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QImage>
-#include <QProcess>
 #include <QQuickItem>
 #include <QScreen>
 #include <QThread>
@@ -394,17 +394,5 @@ int Driver::countPixels(wxWindow& window, QRgb colour)
         for (int x = 0; x < part.width(); ++x)
             count += isClose(part.pixel(x, y), colour) ? 1 : 0;
     return count;
-}
-
-void Driver::xdotool(const QStringList& arguments)
-{
-    QProcess process;
-    process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start("xdotool", arguments);
-    if (!process.waitForStarted())
-        throw DriverError(QStringLiteral("the tool xdotool can't be run: ") + process.errorString());
-    process.waitForFinished();
-    if (process.exitCode() != 0)
-        throw DriverError(QStringLiteral("xdotool %1: %2").arg(arguments.join(' '), process.readAll().trimmed()));
 }
 } // namespace workbench

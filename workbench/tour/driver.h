@@ -115,7 +115,6 @@ private:
     void invoke(const std::function<void()>& function);
     /// Waits until the program has nothing left to do: what it was told, also by the X server, it has done.
     void waitForRest();
-    void xdotool(const QStringList& arguments);
     /// Null when none is open.
     PagePopup* popup();
     QQuickItem* findItem(const QString& name);

@@ -32,9 +32,13 @@ void HealthTour::spoilDrawing()
     m_driver.ask([&] {
         OdDbDatabase* database = m_frame.documents().current()->database();
         database->addLayer(L"Nothing here");
+        OdDbLayerTableRecord* locked = database->addLayer(L"Locked");
+        locked->setIsLocked(true);
         for (const double x : {10.0, 25.0, 40.0}) {
             auto line = std::make_unique<OdDbLine>();
             line->startPoint = line->endPoint = {x, 20.0, 0.0};
+            if (x > 25.0)
+                line->setLayer(locked->objectId());
             database->addEntity(std::move(line), database->modelSpace());
         }
         m_frame.drawingChanged();
@@ -58,6 +62,13 @@ void HealthTour::fixLines()
     m_driver.ask([&] { m_frame.session().setTheme(ut::EGuiColorTheme::Light); });
     m_save("health-lines-selected-light");
     m_driver.ask([&] { m_frame.session().setTheme(ut::EGuiColorTheme::Dark); });
+    m_driver.clickItem("fixFindings");
+    m_driver.waitFor("the line on the locked layer", [&] { return count(1) == 1; });
+    m_save("health-line-left");
+    m_driver.ask([&] {
+        m_frame.documents().current()->database()->findLayer(L"Locked")->setIsLocked(false);
+        m_frame.drawingChanged();
+    });
     m_driver.clickItem("fixFindings");
     m_driver.waitFor("no such lines", [&] { return count(1) == 0; });
     m_save("health-lines-fixed");

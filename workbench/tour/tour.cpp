@@ -6,7 +6,6 @@
 #include "command/commandline.h"
 #include "drawing/drawingcanvas.h"
 #include "host/pagepanel.h"
-#include "od/oddbdatabase.h"
 #include "tour/colourtour.h"
 #include "tour/combotour.h"
 #include "tour/contexttour.h"
@@ -14,6 +13,7 @@
 #include "tour/filtertour.h"
 #include "tour/healthtour.h"
 #include "tour/imagetour.h"
+#include "tour/layertour.h"
 #include "tour/linetypetour.h"
 #include "tour/paneltour.h"
 #include "tour/screentour.h"
@@ -24,7 +24,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QGuiApplication>
 #include <QTemporaryDir>
 #include <QVariant>
 
@@ -50,6 +49,7 @@ class Tour
 public:
     Tour(WorkbenchApp& app, const QString& folder)
         : m_driver(app), m_frame(*app.frame()), m_folder(folder),
+          m_layerTour(m_driver, [this](const QString& name) { save(name); }),
           m_panelTour(m_driver, [this](const QString& name) { save(name); }),
           m_tableTour(m_driver, [this](const QString& name) { save(name); }),
           m_imageTour(m_driver, [this](const QString& name) { save(name); }),
@@ -64,23 +64,13 @@ private:
     QString write(const QString& name, const QByteArray& text);
     void waitForLog(const QString& text);
     void showPanel(const char* title);
-    QString layerName(int row);
-    QString layerCell(int row, const char* column);
-    OdDbLayerTableRecord* layer(const wchar_t* name);
     QPoint placeOfAnEntity();
 
     void openDrawing();
-    void switchLayer();
-    void sortLayers();
-    void editLayer();
-    void searchLayers();
     void openContextMenu();
     void showGrid();
     void showDrawingPanel();
     void showBrokenPage();
-    void startRenaming();
-    void refuseName();
-    void acceptName();
     void switchTheme();
     void refuseDrawing();
     void rebuildEngine();
@@ -89,6 +79,7 @@ private:
     Driver m_driver;
     MainFrame& m_frame;
     QString m_folder;
+    LayerTour m_layerTour;
     PanelTour m_panelTour;
     TableTour m_tableTour;
     ImageTour m_imageTour;
@@ -139,73 +130,6 @@ void Tour::openDrawing()
         "the drawing's layers in the list", [&] { return m_frame.layers().table()->rowCount() > 2; }, 30000);
     m_driver.waitFor("the drawing on the canvas", [&] { return m_frame.canvas().drawnEntityCount() > 0; });
     m_driver.waitFor("the list on the screen", [&] { return m_driver.hasItem("layers/0/name"); });
-}
-
-QString Tour::layerName(int row)
-{
-    return m_driver.ask([&] { return m_frame.layers().table()->index(row, 0).data().toString(); });
-}
-
-QString Tour::layerCell(int row, const char* column)
-{
-    return QStringLiteral("layers/%1/%2").arg(layerName(row), column);
-}
-
-OdDbLayerTableRecord* Tour::layer(const wchar_t* name)
-{
-    return m_driver.ask([&] { return m_frame.documents().current()->database()->findLayer(name); });
-}
-
-void Tour::switchLayer()
-{
-    const size_t before = m_driver.ask([&] { return m_frame.canvas().drawnEntityCount(); });
-    m_driver.clickItem(layerCell(1, "on"));
-    m_driver.waitFor("fewer entities on the canvas", [&] { return m_frame.canvas().drawnEntityCount() < before; });
-    save("a-layer-switched-off");
-    m_driver.clickItem(layerCell(1, "on"));
-    m_driver.waitFor("all entities on the canvas", [&] { return m_frame.canvas().drawnEntityCount() == before; });
-}
-
-void Tour::sortLayers()
-{
-    const QString first = layerName(0);
-    const QString last = layerName(m_driver.ask([&] { return m_frame.layers().table()->rowCount() - 1; }));
-    m_driver.clickItem("header:Name");
-    m_driver.waitFor("the layers from the last name to the first", [&] { return layerName(0) == last; });
-    save("layers-from-the-end");
-    m_driver.clickItem("header:Name");
-    m_driver.waitFor("the layers from the first name to the last", [&] { return layerName(0) == first; });
-}
-
-void Tour::editLayer()
-{
-    m_driver.clickItem(layerCell(1, "name"));
-    m_driver.key("F2");
-    m_driver.waitFor("the keyboard in the name", [&] { return m_driver.itemHasFocus("editor"); });
-    m_driver.replaceText("Edited in the table");
-    m_driver.waitFor("the name in the cell",
-                     [&] { return m_driver.property("editor", "text") == "Edited in the table"; });
-    save("layer-name-in-place");
-    m_driver.key("Return");
-    m_driver.waitFor("the name in the drawing", [&] { return layer(L"Edited in the table") != nullptr; });
-    check(layerName(1) == "Edited in the table", "the row stays where it is");
-    m_driver.clickItem(layerCell(1, "color"));
-    m_driver.waitFor("the colours", [&] { return m_driver.hasOpenList("choice"); });
-    save("layer-colours-to-choose");
-    m_driver.key("Home");
-    m_driver.key("Return");
-    m_driver.waitFor("the colour in the drawing",
-                     [&] { return layer(L"Edited in the table")->color() == OdCmColor::fromIndex(1); });
-}
-
-void Tour::searchLayers()
-{
-    m_driver.clickItem("search");
-    m_driver.type("EDITED");
-    m_driver.waitFor("the layer alone", [&] { return m_frame.layers().table()->rowCount() == 1; });
-    save("layers-searched");
-    m_driver.key("Escape");
-    m_driver.waitFor("all layers", [&] { return m_frame.layers().table()->rowCount() > 2; });
 }
 
 /// On the screen, where a menu has room within the window.
@@ -261,39 +185,8 @@ void Tour::showBrokenPage()
     m_driver.command("PAGE " + file);
     m_driver.waitFor("the note in the page's place", [&] { return m_driver.hasItem("noteReason"); });
     check(m_driver.property("noteReason", "text").toString().contains("BrokenPage.qml:5"), "the note names the line");
-}
-
-void Tour::startRenaming()
-{
-    m_driver.clickItem(layerCell(1, "name"));
-    m_driver.clickItem("rename");
-    m_driver.waitForDialog("Rename Layer");
-    m_driver.waitFor("the keyboard in the name field", [&] { return m_driver.itemHasFocus("name"); });
-}
-
-void Tour::refuseName()
-{
-    m_driver.command("PAGE");
-    showPanel("Layers");
-    startRenaming();
-    save("name-dialog");
-    m_driver.replaceText("0");
-    m_driver.waitFor("the name in the field", [&] { return m_driver.property("name", "text") == "0"; });
-    m_driver.key("Return");
-    m_driver.waitFor("the refusal", [&] { return m_driver.dialogText().contains("already"); });
-}
-
-void Tour::acceptName()
-{
-    m_driver.key("Return");
-    m_driver.waitForDialog("Rename Layer");
-    m_driver.waitFor("the keyboard in the name field again", [&] { return m_driver.itemHasFocus("name"); });
-    m_driver.replaceText("Toured");
-    m_driver.waitFor("the name in the field", [&] { return m_driver.property("name", "text") == "Toured"; });
-    m_driver.clickItem("accept");
-    m_driver.waitForNoDialog();
-    m_driver.waitFor("the new name in the list", [&] { return m_driver.hasItem("layers/Toured/name"); });
-    m_driver.waitFor("the keyboard in the panel again", [] { return QGuiApplication::focusWindow() != nullptr; });
+    check(m_driver.property("noteSource", "text").toString().contains("    width: 10 +\n>5"),
+          "the note shows the line");
 }
 
 void Tour::switchTheme()
@@ -342,16 +235,17 @@ int Tour::run(bool hasDrawing)
 {
     QDir().mkpath(m_folder);
     m_hasDrawing = hasDrawing;
+    const auto layers = [this](void (LayerTour::*step)()) { return [this, step](Tour*) { (m_layerTour.*step)(); }; };
     const auto panels = [this](void (PanelTour::*step)()) { return [this, step](Tour*) { (m_panelTour.*step)(); }; };
     const auto tables = [this](void (TableTour::*step)()) { return [this, step](Tour*) { (m_tableTour.*step)(); }; };
     const auto images = [this](void (ImageTour::*step)()) { return [this, step](Tour*) { (m_imageTour.*step)(); }; };
     const auto screens = [this](void (ScreenTour::*step)()) { return [this, step](Tour*) { (m_screenTour.*step)(); }; };
     const std::pair<const char*, std::function<void(Tour*)>> steps[] = {
         {"open-drawing", &Tour::openDrawing},
-        {"layers-panel", &Tour::switchLayer},
-        {"layers-sorted", &Tour::sortLayers},
-        {"layer-edited", &Tour::editLayer},
-        {"layers-found-again", &Tour::searchLayers},
+        {"layers-panel", layers(&LayerTour::switchLayer)},
+        {"layers-sorted", layers(&LayerTour::sortLayers)},
+        {"layer-edited", layers(&LayerTour::editLayer)},
+        {"layers-found-again", layers(&LayerTour::searchLayers)},
         {"context-menu", &Tour::openContextMenu},
         {"grid", &Tour::showGrid},
         {"drawing-panel", &Tour::showDrawingPanel},
@@ -387,8 +281,8 @@ int Tour::run(bool hasDrawing)
         {"screens", screens(&ScreenTour::showScreens)},
         {"popup", screens(&ScreenTour::openPopup)},
         {"broken-page", &Tour::showBrokenPage},
-        {"name-refused", &Tour::refuseName},
-        {"name-accepted", &Tour::acceptName},
+        {"name-refused", layers(&LayerTour::refuseName)},
+        {"name-accepted", layers(&LayerTour::acceptName)},
         {"dark-theme", &Tour::switchTheme},
         {"damaged-drawing-refused", &Tour::refuseDrawing},
         {"engine-rebuilt", &Tour::rebuildEngine},

@@ -112,7 +112,9 @@ private Q_SLOTS:
         session = open(controller);
         disabler = session->disable();
         session.reset();
+        const std::weak_ptr<CommandContextDialogController> weak = controller;
         controller.reset();
+        QVERIFY(weak.expired());
         disabler.reset();
     }
 

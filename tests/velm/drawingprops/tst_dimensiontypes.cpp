@@ -4,6 +4,7 @@
 #include "od/oddbdatabase.h"
 #include "od/oddbdimension.h"
 #include "support/table.h"
+#include "support/vtableslots.h"
 
 #include <QTest>
 
@@ -149,6 +150,18 @@ private Q_SLOTS:
         const DimstyleSorter withoutDatabase(nullptr);
         QVERIFY(withoutDatabase(L"Standard$0", L"Standard$2"));
         QVERIFY(!withoutDatabase(L"STANDARD", L"standard") && !withoutDatabase(L"standard", L"STANDARD"));
+    }
+
+    void theOperationsKeepTheirSlots()
+    {
+#ifdef VELM_READS_VTABLES
+        using velmtest::slotOf;
+        QCOMPARE((QList{slotOf(&CDimensionTypeInfo::number), slotOf(&CDimensionTypeInfo::name),
+                        slotOf(&CDimensionTypeInfo::valueKind)}),
+                 velmtest::slotsFrom(0, 3));
+#else
+        QSKIP("only read where the tables are laid out so");
+#endif
     }
 };
 

@@ -108,6 +108,17 @@ private Q_SLOTS:
             texts += tags.index(0, 0).data(role).toString();
         QCOMPARE(texts.join('|'), "||||-1|1|0|x");
         QCOMPARE(tags.index(0, 0).data(FilterTagsConjunctionModel::DataRole).toMap().size(), 8);
+        // A model may answer for it all the same.
+        class Answering : public FakeProperties
+        {
+            FilterOperatorsModel::CategoryType getOperatorCategoryType(int) const override
+            {
+                return FilterOperatorsModel::Enum;
+            }
+        };
+        const Answering answering;
+        const FilterTagsConjunctionModel others(answering, nullptr, {{-1, 1, "x"}});
+        QCOMPARE(others.index(0, 0).data(FilterTagsConjunctionModel::OperatorsCategoryRole), QVariant(4));
     }
 
     void aTagIsAddedAsItComes()

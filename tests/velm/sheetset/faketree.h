@@ -4,6 +4,8 @@
 
 #include <QMap>
 
+#include <functional>
+
 /// A disk in memory that writes down which directories were read. Paths end in "/" for directories.
 class FakeDisk : public velm::IFileSystem
 {
@@ -11,6 +13,7 @@ public:
     QStringList entries; ///< in the order of the listing
     mutable QStringList browsed;
     mutable QStringList filters;
+    std::function<void()> onBrowse;
 
     bool isDirectory(const QString& path) const override { return entries.contains(path + '/'); }
     bool isFile(const QString& path) const override { return entries.contains(path); }
@@ -19,6 +22,8 @@ public:
                                    const QFlags<QDir::Filter>& wanted) const override
     {
         browsed += path;
+        if (onBrowse)
+            onBrowse();
         filters = nameFilters;
         filters += QString::number(wanted.toInt(), 16);
         QStringList found;

@@ -43,7 +43,10 @@ private Q_SLOTS:
         QCOMPARE(rows(), QString("p"));
 
         m_tree->setNameFilters({"*.dwg"});
+        // What comes into it while it is read must be told.
+        m_tree->disk.onBrowse = [this] { QCOMPARE(m_tree->watch.watched, QStringList({"/p"})); };
         m_tree->fetchMore(root);
+        m_tree->disk.onBrowse = nullptr;
         QCOMPARE(rows(), QString("p(b a.dwg bc)"));
         QCOMPARE(m_tree->disk.filters, QStringList({"*.dwg", "6402"}));
         QCOMPARE(m_tree->watch.watched, QStringList({"/p"}));
@@ -102,7 +105,10 @@ private Q_SLOTS:
         QVERIFY(m_tree->deleteItem(m_tree->index("/p"), 1));
         QVERIFY(!m_tree->deleteItem(m_tree->index("/p"), 5));
         QVERIFY(!m_tree->deleteItem(m_tree->index("/p"), -1));
+        QCOMPARE(m_tree->watch.watched, QStringList({"/p"}));
+        // Every path holds the empty text of no node.
         QVERIFY(!m_tree->deleteItem({}, QModelIndex()));
+        QVERIFY(m_tree->watch.watched.isEmpty());
         QCOMPARE(rows(), QString("p(a.dwg)"));
     }
 
@@ -116,15 +122,30 @@ private Q_SLOTS:
         connect(m_tree.get(), &QAbstractItemModel::rowsRemoved, this,
                 [&](const QModelIndex&, int first, int) { log += "-" + QString::number(first); });
         m_tree->disk.entries = {"/p/", "/p/n.dwg", "/p/a.dwg", "/p/m/"};
+        m_tree->setNameFilters({"*.none"});
         m_tree->watch.onDirectoryChanged("/p");
         QCOMPARE(rows(), QString("p(a.dwg n.dwg m)"));
         QCOMPARE(log, QStringList({"+3", "+4", "-2", "-0"}));
         // What is new isn't watched before it is opened.
         QCOMPARE(m_tree->watch.watched, QStringList({"/p"}));
+        QCOMPARE(m_tree->disk.filters, QStringList({"*.none", "6402"}));
         log.clear();
         m_tree->watch.onDirectoryChanged("/p");
         m_tree->watch.onDirectoryChanged("/elsewhere");
         QVERIFY(log.isEmpty());
+    }
+
+    void aDirectoryThatIsTakenAwayByAListenerLeavesTheOthersAlone()
+    {
+        m_tree->addDirectory("/p");
+        m_tree->addDirectory("/q");
+        m_tree->open("/p");
+        const auto whenRemoved =
+            connect(m_tree.get(), &QAbstractItemModel::rowsRemoved, this, [this] { m_tree->removeDirectory("/p"); });
+        m_tree->disk.entries = {"/p/", "/q/"};
+        m_tree->watch.onDirectoryChanged("/p");
+        QCOMPARE(rows(), QString("q"));
+        disconnect(whenRemoved);
     }
 
     void aReplacedKindOfEntryKeepsItsNode()

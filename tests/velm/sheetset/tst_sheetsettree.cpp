@@ -2,6 +2,8 @@
 
 #include "od/oderror.h"
 #include "support/rowtext.h"
+#include "support/scopes.h"
+#include "support/vtableslots.h"
 #include "velm/sheetset/sheetsetfilesystemsorter.h"
 #include "velm/table/sortfilterselectmodel.h"
 
@@ -92,7 +94,7 @@ private Q_SLOTS:
     void foldersComeFirstAndNumbersCount()
     {
         QFETCH(QLocale, locale);
-        QLocale::setDefault(locale);
+        const velmtest::ScopedLocale scope(locale);
         m_tree->disk.entries = {"/t/",           "/t/Sheet10.dwg", "/t/sheet2.dwg", "/t/b.dwg",
                                 "/t/zfolder10/", "/t/Zfolder9/",   "/t/A.dwg"};
         m_tree->addDirectory("/t");
@@ -105,7 +107,6 @@ private Q_SLOTS:
         const QModelIndex folder = proxy.mapFromSource(m_tree->index("/t"));
         QCOMPARE(rowText(proxy, Qt::DisplayRole, folder),
                  QString("Zfolder9 zfolder10 A.dwg b.dwg sheet2.dwg Sheet10.dwg"));
-        QLocale::setDefault(QLocale::c());
 
         const QModelIndex any = m_tree->index("/t/A.dwg");
         QVERIFY(sorter.lessThan({}, any) && !sorter.lessThan(any, {}) && sorter.lessThan({}, {}));
@@ -134,6 +135,30 @@ private Q_SLOTS:
         QCOMPARE(rowText(again), QString("s(folder(inner) plan.dwg plain.dwg)"));
         QVERIFY(again.wantsToBeExpanded(again.index("/s/folder")));
         QVERIFY(!again.wantsToBeExpanded(again.index("/s/folder/inner")));
+    }
+
+    void theOperationsKeepTheirSlots()
+    {
+#ifdef VELM_READS_VTABLES
+        using velmtest::slotOf;
+        using Data = velm::ISheetSetFileSystemTreeData;
+        using Disk = velm::IFileSystem;
+        using Watcher = velm::IFileSystemWatcher;
+        // The destructor takes the first two.
+        QCOMPARE((QList{slotOf(&Data::path), slotOf(&Data::hasChildren), slotOf(&Data::fetchChildren),
+                        slotOf(&Data::canFetchMore), slotOf(&Data::icon), slotOf(&Data::name), slotOf(&Data::tooltip),
+                        slotOf(&Data::dragValid), slotOf(&Data::dropValid), slotOf(&Data::isFolder)}),
+                 velmtest::slotsFrom(2, 10));
+        QCOMPARE((QList{slotOf(&Disk::isDirectory), slotOf(&Disk::isFile), slotOf(&Disk::directoryExists),
+                        slotOf(&Disk::browseDirectory)}),
+                 velmtest::slotsFrom(2, 4));
+        QCOMPARE(
+            (QList{slotOf(&Watcher::setListener), slotOf(&Watcher::addPath), slotOf(&Watcher::removePath),
+                   slotOf(&Watcher::removePaths), slotOf(&Watcher::directories), slotOf(&Watcher::onDirectoryChanged)}),
+            velmtest::slotsFrom(2, 6));
+#else
+        QSKIP("only read where the tables are laid out so");
+#endif
     }
 };
 

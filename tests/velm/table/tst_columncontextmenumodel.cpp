@@ -70,6 +70,9 @@ private Q_SLOTS:
         QCOMPARE(menu.index(0).data(0), QVariant("Own"));
         menu.trigger(0, -4);
         QCOMPARE(triggered, -4);
+        m_table->setSourceModel(nullptr);
+        menu.trigger(0, 9);
+        QCOMPARE(triggered, 9);
         menu.actions().clear();
         menu.refresh();
         menu.disableDefaultModel();

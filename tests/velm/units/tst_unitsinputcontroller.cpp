@@ -149,6 +149,24 @@ private Q_SLOTS:
         QCOMPARE(controller.getValue(), 0.0);
     }
 
+    void anotherDelegateAnswersFromThenOn()
+    {
+        UnitsInputController controller;
+        controller.setValue(5.0);
+        const QPointer<QObject> former = dynamic_cast<QObject*>(controller.getDelegate());
+        QStringList seen;
+        connect(&controller, &UnitsInputController::precisionChanged, this,
+                [&] { seen += QString("%1 %2").arg(former.isNull()).arg(controller.getValue()); });
+        velmtest::SignalLog log(controller);
+        controller.setDelegate(std::make_unique<UnitsInputControllerDelegate>(1));
+        QCOMPARE(seen, QStringList({"1 0"}));
+        QCOMPARE(log.take(), ofANewDelegate);
+        // The type that shows is the delegate's; the one that was given last isn't.
+        QCOMPARE(controller.property("inputType"), QVariant(1));
+        controller.setInputType(0);
+        QCOMPARE(log.take(), QString());
+    }
+
     void theCalculatorsResultIsClamped()
     {
         UnitsInputController controller;
