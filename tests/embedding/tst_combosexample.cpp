@@ -1,12 +1,10 @@
 #include "docs/combos/pen.h"
 #include "support/fakehost.h"
-#include "velm/bridge/engine.h"
+#include "support/pagetest.h"
 #include "velm/drawingprops/iarrowheadmodel.h"
 
-#include <QApplication>
 #include <QQmlComponent>
 #include <QQuickItem>
-#include <QTest>
 
 class TestCombosExample : public QObject
 {
@@ -66,13 +64,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char** argv)
-{
-    qputenv("TN_QT_QPA_PLATFORM", qgetenv("QT_QPA_PLATFORM"));
-    velm::undefineQtEnvVars();
-    QApplication application(argc, argv);
-    TestCombosExample test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+PAGE_TEST_MAIN(TestCombosExample)
 #include "tst_combosexample.moc"

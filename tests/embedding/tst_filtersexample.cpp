@@ -1,11 +1,9 @@
 #include "docs/filters/stockfilter.h"
-#include "velm/bridge/engine.h"
+#include "support/pagetest.h"
 #include "velm/filter/filtertagsconjunctionmodel.h"
 
-#include <QApplication>
 #include <QQmlComponent>
 #include <QQuickItem>
-#include <QTest>
 
 class TestFiltersExample : public QObject
 {
@@ -40,13 +38,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char** argv)
-{
-    qputenv("TN_QT_QPA_PLATFORM", qgetenv("QT_QPA_PLATFORM"));
-    velm::undefineQtEnvVars();
-    QApplication application(argc, argv);
-    TestFiltersExample test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+PAGE_TEST_MAIN(TestFiltersExample)
 #include "tst_filtersexample.moc"

@@ -1,11 +1,9 @@
 #include "docs/images/placedpicture.h"
-#include "velm/bridge/engine.h"
+#include "support/pagetest.h"
 
 #include <QAbstractItemModel>
-#include <QApplication>
 #include <QQmlComponent>
 #include <QQuickItem>
-#include <QTest>
 
 /// The controller that the example's page expects.
 class PreviewController : public QObject
@@ -60,13 +58,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char** argv)
-{
-    qputenv("TN_QT_QPA_PLATFORM", qgetenv("QT_QPA_PLATFORM"));
-    velm::undefineQtEnvVars();
-    QApplication application(argc, argv);
-    TestImagesExample test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+PAGE_TEST_MAIN(TestImagesExample)
 #include "tst_imagesexample.moc"

@@ -1,11 +1,9 @@
 #include "docs/models/parttree.h"
+#include "support/pagetest.h"
 #include "support/rowtext.h"
-#include "velm/bridge/engine.h"
 
-#include <QApplication>
 #include <QQmlComponent>
 #include <QQuickItem>
-#include <QTest>
 
 /// The controller that the example's page expects.
 class PartsController : public QObject
@@ -50,13 +48,5 @@ void TestModelsExample::whatIsOpenStaysOpenThroughARebuild()
     velm::resetEngine(engine);
 }
 
-int main(int argc, char** argv)
-{
-    qputenv("TN_QT_QPA_PLATFORM", qgetenv("QT_QPA_PLATFORM"));
-    velm::undefineQtEnvVars();
-    QApplication application(argc, argv);
-    TestModelsExample test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+PAGE_TEST_MAIN(TestModelsExample)
 #include "tst_modelsexample.moc"

@@ -1,12 +1,10 @@
 #include "docs/tables/stocktable.h"
+#include "support/pagetest.h"
 #include "support/rowtext.h"
 #include "support/scopes.h"
-#include "velm/bridge/engine.h"
 
-#include <QApplication>
 #include <QQmlComponent>
 #include <QQuickItem>
-#include <QTest>
 
 /// The controller that the example's page expects.
 class StockController : public QObject
@@ -65,13 +63,5 @@ void TestTablesExample::rowsAreSortedSearchedAndActivated()
     velm::resetEngine(engine);
 }
 
-int main(int argc, char** argv)
-{
-    qputenv("TN_QT_QPA_PLATFORM", qgetenv("QT_QPA_PLATFORM"));
-    velm::undefineQtEnvVars();
-    QApplication application(argc, argv);
-    TestTablesExample test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+PAGE_TEST_MAIN(TestTablesExample)
 #include "tst_tablesexample.moc"

@@ -1,13 +1,11 @@
 #include "docs/units/percentprovider.h"
-#include "velm/bridge/engine.h"
+#include "support/pagetest.h"
 #include "velm/units/iunitsinputcontrollerdelegate.h"
 #include "velm/units/settings.h"
 #include "velm/units/unitsinputcontroller.h"
 
-#include <QApplication>
 #include <QQmlComponent>
 #include <QQuickItem>
-#include <QTest>
 
 class TestUnitsExample : public QObject
 {
@@ -44,13 +42,5 @@ void TestUnitsExample::aProviderWritesValuesItsOwnWay()
     QVERIFY(!controller.validateValue(QStringLiteral("many")));
 }
 
-int main(int argc, char** argv)
-{
-    qputenv("TN_QT_QPA_PLATFORM", qgetenv("QT_QPA_PLATFORM"));
-    velm::undefineQtEnvVars();
-    QApplication application(argc, argv);
-    TestUnitsExample test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+PAGE_TEST_MAIN(TestUnitsExample)
 #include "tst_unitsexample.moc"

@@ -2,6 +2,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "support/table.h"
 #include "ut/config.h"
 #include "ut/environment.h"
 
@@ -60,22 +61,22 @@ private Q_SLOTS:
 
     void listsRoundTrip_data()
     {
-        QTest::addColumn<QStringList>("texts");
-        QTest::newRow("no text at all") << QStringList();
-        QTest::newRow("an empty text") << QStringList{""};
-        QTest::newRow("empty texts between others") << QStringList{"", "a", "", "b", ""};
-        QTest::newRow("quotes") << QStringList{"\"", "\"a\",\"b\"", "'"};
-        QTest::newRow("commas and brackets") << QStringList{"a,b", "[", "],[", "{}"};
-        QTest::newRow("slashes of both kinds") << QStringList{"/", "a/b/", "\\", "\\\"", "\\u0041", "%5C"};
-        QTest::newRow("line ends and other control characters")
-            << QStringList{"a\nb", "\r\n", "\t", QString(QChar(0)) + 'z', QString(QChar(127))};
-        QTest::newRow("what looks like a variant") << QStringList{"@Invalid()", "@ByteArray(x)"};
-        QTest::newRow("letters beyond ASCII and the first plane")
-            << QStringList{QString::fromUtf8("Ma\u00df \u56f3\u9762"), QString::fromUtf8("\xf0\x9f\x93\x90"),
-                           QString(QChar(0x202e)) + "x"};
-        QTest::newRow("blanks at both ends") << QStringList{" a ", QString(QChar(0xa0))};
-        QTest::newRow("equal texts") << QStringList{"a", "a"};
-        QTest::newRow("a long list") << QStringList(5000, "00112233-4455-6677-8899-aabbccddeeff");
+        const auto row = velmtest::columns<QStringList>("texts");
+        row("no text at all", QStringList());
+        row("an empty text", {""});
+        row("empty texts between others", {"", "a", "", "b", ""});
+        row("quotes", {"\"", "\"a\",\"b\"", "'"});
+        row("commas and brackets", {"a,b", "[", "],[", "{}"});
+        row("slashes of both kinds", {"/", "a/b/", "\\", "\\\"", "\\u0041", "%5C"});
+        row("line ends and other control characters",
+            {"a\nb", "\r\n", "\t", QString(QChar(0)) + 'z', QString(QChar(127))});
+        row("what looks like a variant", {"@Invalid()", "@ByteArray(x)"});
+        row("letters beyond ASCII and the first plane",
+            {QString::fromUtf8("Ma\u00df \u56f3\u9762"), QString::fromUtf8("\xf0\x9f\x93\x90"),
+             QString(QChar(0x202e)) + "x"});
+        row("blanks at both ends", {" a ", QString(QChar(0xa0))});
+        row("equal texts", {"a", "a"});
+        row("a long list", QStringList(5000, "00112233-4455-6677-8899-aabbccddeeff"));
     }
     void listsRoundTrip()
     {
@@ -183,10 +184,10 @@ private Q_SLOTS:
 
     void aDamagedEntryReadsAsAnEmptyListAndStays_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::newRow("cut off") << "[\"a\",\"b";
-        QTest::newRow("no list at all") << "a, b";
-        QTest::newRow("another form") << "{\"a\":1}";
+        const auto row = velmtest::columns<QString>("text");
+        row("cut off", "[\"a\",\"b");
+        row("no list at all", "a, b");
+        row("another form", "{\"a\":1}");
     }
     void aDamagedEntryReadsAsAnEmptyListAndStays()
     {

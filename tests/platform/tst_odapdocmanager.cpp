@@ -39,118 +39,112 @@ private:
     QStringList m_told;
 };
 
-class tst_OdApDocManager : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void openingTellsInOrder();
-    void closingTellsInOrder();
-    void onlyAChangeOfTheCurrentDocumentIsTold();
-    void reactorsMayChangeTheListWhileTold();
-    void destructorClosesAll();
-};
-
 static std::unique_ptr<OdApDocument> document(const wchar_t* name)
 {
     return std::make_unique<OdApDocument>(name, std::make_unique<OdDbDatabase>());
 }
 
-void tst_OdApDocManager::openingTellsInOrder()
+class tst_OdApDocManager : public QObject
 {
-    OdApDocManager manager;
-    Recorder recorder(manager);
-    manager.addReactor(&recorder);
-    manager.addReactor(&recorder);
-    OdApDocument* a = manager.open(document(L"a"));
-    QCOMPARE(recorder.take(), QStringList({"createStarted(a) -", "created(a) -", "toBeActivated(a) -", "activated(a) a",
-                                           "becameCurrent(a) a"}));
-    OdApDocument* b = manager.open(document(L"b"));
-    QCOMPARE(recorder.take(),
-             QStringList({"createStarted(b) a", "created(b) a", "toBeDeactivated(a) a", "toBeActivated(b) a",
-                          "deactivated(a) b", "activated(b) b", "becameCurrent(b) b"}));
-    QVERIFY(manager.documents() == std::vector<OdApDocument*>({a, b}));
-    QVERIFY(!manager.open(nullptr));
-    manager.removeReactor(&recorder);
-    manager.open(document(L"c"));
-    QVERIFY(recorder.take().isEmpty());
-}
+    Q_OBJECT
 
-void tst_OdApDocManager::closingTellsInOrder()
-{
-    OdApDocManager manager;
-    OdApDocument* a = manager.open(document(L"a"));
-    OdApDocument* b = manager.open(document(L"b"));
-    OdApDocument* c = manager.open(document(L"c"));
-    manager.setCurDocument(a);
-    Recorder recorder(manager);
-    manager.addReactor(&recorder);
+private Q_SLOTS:
+    void openingTellsInOrder()
+    {
+        OdApDocManager manager;
+        Recorder recorder(manager);
+        manager.addReactor(&recorder);
+        manager.addReactor(&recorder);
+        OdApDocument* a = manager.open(document(L"a"));
+        QCOMPARE(recorder.take(), QStringList({"createStarted(a) -", "created(a) -", "toBeActivated(a) -",
+                                               "activated(a) a", "becameCurrent(a) a"}));
+        OdApDocument* b = manager.open(document(L"b"));
+        QCOMPARE(recorder.take(),
+                 QStringList({"createStarted(b) a", "created(b) a", "toBeDeactivated(a) a", "toBeActivated(b) a",
+                              "deactivated(a) b", "activated(b) b", "becameCurrent(b) b"}));
+        QVERIFY(manager.documents() == std::vector<OdApDocument*>({a, b}));
+        QVERIFY(!manager.open(nullptr));
+        manager.removeReactor(&recorder);
+        manager.open(document(L"c"));
+        QVERIFY(recorder.take().isEmpty());
+    }
 
-    manager.close(b);
-    QCOMPARE(recorder.take(), QStringList({"toBeDestroyed(b) a", "destroyed(b) a"}));
-    manager.close(a);
-    QCOMPARE(recorder.take(),
-             QStringList({"toBeDestroyed(a) a", "toBeDeactivated(a) a", "toBeActivated(c) a", "deactivated(a) c",
-                          "activated(c) c", "becameCurrent(c) c", "destroyed(a) c"}));
-    QVERIFY(manager.documents() == std::vector<OdApDocument*>({c}));
-    manager.close(c);
-    QCOMPARE(recorder.take(), QStringList({"toBeDestroyed(c) c", "becameCurrent(-) -", "destroyed(c) -"}));
-    manager.close(c); // gone: only the address is looked at
-    manager.close(nullptr);
-    QVERIFY(recorder.take().isEmpty());
-}
+    void closingTellsInOrder()
+    {
+        OdApDocManager manager;
+        OdApDocument* a = manager.open(document(L"a"));
+        OdApDocument* b = manager.open(document(L"b"));
+        OdApDocument* c = manager.open(document(L"c"));
+        manager.setCurDocument(a);
+        Recorder recorder(manager);
+        manager.addReactor(&recorder);
 
-void tst_OdApDocManager::onlyAChangeOfTheCurrentDocumentIsTold()
-{
-    OdApDocManager manager;
-    OdApDocument* a = manager.open(document(L"a"));
-    const auto foreign = document(L"b");
-    Recorder recorder(manager);
-    manager.addReactor(&recorder);
-    manager.setCurDocument(a);
-    manager.setCurDocument(foreign.get());
-    manager.setCurDocument(nullptr);
-    manager.removeReactor(&recorder); // which dies before the manager
-    QVERIFY(recorder.take().isEmpty());
-    QCOMPARE(manager.curDocument(), a);
-}
+        manager.close(b);
+        QCOMPARE(recorder.take(), QStringList({"toBeDestroyed(b) a", "destroyed(b) a"}));
+        manager.close(a);
+        QCOMPARE(recorder.take(),
+                 QStringList({"toBeDestroyed(a) a", "toBeDeactivated(a) a", "toBeActivated(c) a", "deactivated(a) c",
+                              "activated(c) c", "becameCurrent(c) c", "destroyed(a) c"}));
+        QVERIFY(manager.documents() == std::vector<OdApDocument*>({c}));
+        manager.close(c);
+        QCOMPARE(recorder.take(), QStringList({"toBeDestroyed(c) c", "becameCurrent(-) -", "destroyed(c) -"}));
+        manager.close(c); // gone: only the address is looked at
+        manager.close(nullptr);
+        QVERIFY(recorder.take().isEmpty());
+    }
 
-void tst_OdApDocManager::reactorsMayChangeTheListWhileTold()
-{
-    OdApDocManager manager;
-    Recorder first(manager);
-    auto second = std::make_unique<Recorder>(manager);
-    Recorder third(manager);
-    Recorder added(manager);
-    manager.addReactor(&first);
-    manager.addReactor(second.get());
-    manager.addReactor(&third);
-    first.onEach = [&] {
-        manager.removeReactor(&first);
-        manager.removeReactor(second.get());
-        second.reset();
-        manager.addReactor(&added);
-    };
-    manager.open(document(L"a"));
-    manager.removeReactor(&third);
-    manager.removeReactor(&added);
-    QCOMPARE(first.take().size(), 1);
-    QCOMPARE(third.take().size(), 5);
-    QCOMPARE(added.take().first(), QStringLiteral("created(a) -")); // from the next operation on
-}
+    void onlyAChangeOfTheCurrentDocumentIsTold()
+    {
+        OdApDocManager manager;
+        OdApDocument* a = manager.open(document(L"a"));
+        const auto foreign = document(L"b");
+        Recorder recorder(manager);
+        manager.addReactor(&recorder);
+        manager.setCurDocument(a);
+        manager.setCurDocument(foreign.get());
+        manager.setCurDocument(nullptr);
+        manager.removeReactor(&recorder); // which dies before the manager
+        QVERIFY(recorder.take().isEmpty());
+        QCOMPARE(manager.curDocument(), a);
+    }
 
-void tst_OdApDocManager::destructorClosesAll()
-{
-    auto manager = std::make_unique<OdApDocManager>();
-    Recorder recorder(*manager);
-    manager->open(document(L"a"));
-    manager->open(document(L"b"));
-    manager->addReactor(&recorder);
-    manager.reset();
-    const QStringList told = recorder.take();
-    QCOMPARE(told.filter(QStringLiteral("toBeDestroyed")).size(), 2);
-    QCOMPARE(told.last(), QStringLiteral("destroyed(a) -"));
-}
+    void reactorsMayChangeTheListWhileTold()
+    {
+        OdApDocManager manager;
+        Recorder first(manager);
+        auto second = std::make_unique<Recorder>(manager);
+        Recorder third(manager);
+        Recorder added(manager);
+        manager.addReactor(&first);
+        manager.addReactor(second.get());
+        manager.addReactor(&third);
+        first.onEach = [&] {
+            manager.removeReactor(&first);
+            manager.removeReactor(second.get());
+            second.reset();
+            manager.addReactor(&added);
+        };
+        manager.open(document(L"a"));
+        manager.removeReactor(&third);
+        manager.removeReactor(&added);
+        QCOMPARE(first.take().size(), 1);
+        QCOMPARE(third.take().size(), 5);
+        QCOMPARE(added.take().first(), QStringLiteral("created(a) -")); // from the next operation on
+    }
+
+    void destructorClosesAll()
+    {
+        auto manager = std::make_unique<OdApDocManager>();
+        Recorder recorder(*manager);
+        manager->open(document(L"a"));
+        manager->open(document(L"b"));
+        manager->addReactor(&recorder);
+        manager.reset();
+        const QStringList told = recorder.take();
+        QCOMPARE(told.filter(QStringLiteral("toBeDestroyed")).size(), 2);
+        QCOMPARE(told.last(), QStringLiteral("destroyed(a) -"));
+    }
+};
 
 QTEST_APPLESS_MAIN(tst_OdApDocManager)
 #include "tst_odapdocmanager.moc"

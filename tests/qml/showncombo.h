@@ -112,8 +112,7 @@ public:
                   " }\n" + "Button { objectName: 'other'; y: 100; text: 'x'; focusPolicy: Qt.NoFocus } }",
               {{QStringLiteral("model"), QVariant::fromValue<QObject*>(&model)}}))
     {
-        if (m_shown.isReady())
-            box()->forceActiveFocus();
+        box()->forceActiveFocus();
     }
 
     Shown& shown() { return m_shown; }

@@ -1,18 +1,16 @@
 #pragma once
 
 #include "shownpage.h"
+#include "support/fakefilterproperties.h"
 #include "velm/filter/filtermanagerbuttonscontroller.h"
 #include "velm/filter/filterpopupcontroller.h"
 #include "velm/filter/filtertagsconjunctionmodel.h"
 #include "velm/filter/filtertagsmodel.h"
-#include "velm/filter/ientityfilterpropertiesmodel.h"
-
-#include <QAbstractItemModelTester>
 
 namespace velmtest {
 /// Nine properties of entities; favourites are kept in memory alone. What is picked from the drawing is `picked`, an
 /// invalid value where the selected thing has none.
-class FilterProperties : public velm::IEntityFilterPropertiesModel
+class FilterProperties : public FakeFilterProperties
 {
 public:
     bool canPick = false;
@@ -31,18 +29,18 @@ public:
         Hyperlink,
     };
 
-    int getNrProperties() const override { return static_cast<int>(properties().size()); }
-    QString getName(int index) const override { return property(index).name; }
-    QString getValueType(int index) const override { return property(index).type; }
-    QString getUnit(int index) const override { return property(index).unit; }
-    QStringList getPath(int index) const override { return property(index).path; }
-    QStringList getValues(int index) const override
-    {
-        if (index == Layer)
-            return {"Walls", "Doors"};
-        return index == Type ? QStringList{"Line", "Circle", "Arc", "Text"}
-                             : AbstractFilterPropertiesModel::getValues(index);
-    }
+    FilterProperties()
+        : FakeFilterProperties({{{}, "Layer", "stringMultiple", {"General"}, {"Walls", "Doors"}},
+                                {{}, "Type", "enum", {"General"}, {"Line", "Circle", "Arc", "Text"}},
+                                {{}, "Visible", "boolean", {"General"}, {}},
+                                {{}, "Length", "real", {"Geometry"}, {}, "mm"},
+                                {{}, "Radius", "real", {"Geometry"}, {}, "mm"},
+                                {{}, "Contents", "string", {"Text"}, {}},
+                                {{}, "Height", "real", {"Text", "Style"}, {}, "mm"},
+                                {{}, "Name", "stringMultiple", {"Block"}, {}},
+                                {{}, "Hyperlink", "string", {}, {}}})
+    {}
+
     QString getFullPathName(int index, bool withUnit) const override
     {
         const QString unit = withUnit && !getUnit(index).isEmpty() ? " [" + getUnit(index) + "]" : QString();
@@ -53,36 +51,8 @@ public:
     bool pipetEnabled() const override { return canPick; }
     QVariantMap pipet(int) override { return {{"success", picked.isValid()}, {"value", picked}}; }
     oc::PropertyFilterFactoriesManager* getPropertyFilterFactoriesManager() const override { return m_manager.get(); }
-    void hostFilterAction1() override {}
-    void hostFilterAction2() override {}
-    void hostFilterAction3() override {}
-    void hostFilterAction4() override {}
 
 private:
-    struct Property
-    {
-        QString name;
-        QStringList path;
-        QString type;
-        QString unit;
-    };
-    static const std::vector<Property>& properties()
-    {
-        static const std::vector<Property> all = {
-            {"Layer", {"General"}, "stringMultiple", {}},
-            {"Type", {"General"}, "enum", {}},
-            {"Visible", {"General"}, "boolean", {}},
-            {"Length", {"Geometry"}, "real", "mm"},
-            {"Radius", {"Geometry"}, "real", "mm"},
-            {"Contents", {"Text"}, "string", {}},
-            {"Height", {"Text", "Style"}, "real", "mm"},
-            {"Name", {"Block"}, "stringMultiple", {}},
-            {"Hyperlink", {}, "string", {}},
-        };
-        return all;
-    }
-    static const Property& property(int index) { return properties().at(static_cast<std::size_t>(index)); }
-
     std::unique_ptr<oc::PropertyFilterFactoriesManager> m_manager =
         std::make_unique<oc::PropertyFilterFactoriesManager>();
 };

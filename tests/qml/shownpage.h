@@ -1,16 +1,14 @@
 #pragma once
 
-#include "velm/bridge/engine.h"
+#include "support/pagetest.h"
 
-#include <QApplication>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
-#include <QTest>
 
 namespace velmtest {
-/// A page in a window that has the keyboard.
+/// A page in a window that has the keyboard; without one there is nothing to test, and the test ends.
 class Shown
 {
 public:
@@ -18,20 +16,20 @@ public:
     {
         auto* item = qobject_cast<QQuickItem*>(page);
         if (!item)
-            return;
+            qFatal("There is no page");
         item->setParentItem(m_window.contentItem());
         item->setSize(QSizeF(item->implicitWidth(), item->implicitHeight()));
         m_window.resize(500, 400);
         m_window.show();
         m_window.requestActivate();
         item->forceActiveFocus();
-        m_ready = QTest::qWaitForWindowActive(&m_window);
+        if (!QTest::qWaitForWindowActive(&m_window))
+            qFatal("The page doesn't come up");
     }
     /// The page goes before its window, which lets go of the pictures that it drew.
     ~Shown() { m_page.reset(); }
     Q_DISABLE_COPY_MOVE(Shown)
 
-    bool isReady() const { return m_ready; }
     QObject* page() const { return m_page.get(); }
     QQuickWindow* window() { return &m_window; }
     QQuickItem* focusItem() const { return m_window.activeFocusItem(); }
@@ -53,7 +51,6 @@ public:
 private:
     std::unique_ptr<QObject> m_page;
     QQuickWindow m_window;
-    bool m_ready = false;
 };
 
 /// An engine as the host runs it, and pages that are written in a test.
@@ -64,6 +61,7 @@ public:
     ~PageEngine() { velm::resetEngine(m_engine); }
     Q_DISABLE_COPY_MOVE(PageEngine)
 
+    QQmlEngine* get() const { return m_engine.get(); }
     /// Null, which is logged, when the page isn't correct. The models become properties of the root, which declares
     /// them.
     QObject* load(const QByteArray& body, const QVariantMap& properties = {})
@@ -81,17 +79,4 @@ private:
     velm::PluginImportLoader m_loader;
     std::unique_ptr<QQmlEngine> m_engine;
 };
-
-/// The main() of a test of pages.
-template <typename Test>
-int runPageTest(int argc, char** argv)
-{
-    // The environment of a developer has no say, but the platform of the test has.
-    qputenv("TN_QT_QPA_PLATFORM", qgetenv("QT_QPA_PLATFORM"));
-    velm::undefineQtEnvVars();
-    QApplication application(argc, argv);
-    velm::setDefaultLocale();
-    Test test;
-    return QTest::qExec(&test, argc, argv);
-}
 } // namespace velmtest

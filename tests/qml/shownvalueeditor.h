@@ -56,11 +56,11 @@ public:
              {QStringLiteral("row"), static_cast<int>(kind)},
              {QStringLiteral("owner"), QVariant::fromValue<QObject*>(this)},
              {QStringLiteral("value"), value}}));
-        if (m_shown->isReady())
-            takeFocus();
+        if (!editor())
+            qFatal("There is no editor");
+        takeFocus();
     }
 
-    bool isReady() const { return m_shown->isReady() && editor(); }
     Shown& shown() { return *m_shown; }
     QQuickItem* editor() const { return find("loader")->property("item").value<QQuickItem*>(); }
     /// Also what a repeater or a list made.

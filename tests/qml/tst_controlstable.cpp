@@ -1,5 +1,6 @@
 #include "shownmodeltable.h"
 #include "support/scopes.h"
+#include "support/table.h"
 
 #include <QSignalSpy>
 
@@ -134,7 +135,7 @@ private Q_SLOTS:
 
     void sharesFillTheWidth()
     {
-        ShownTable t(5, [](Rows& rows) {
+        ShownTable t(5, [](SampleRows& rows) {
             rows.columns().columns[0].proportionalSize = 2;
             rows.columns().columns[3].proportionalSize = 1;
         });
@@ -153,19 +154,17 @@ private Q_SLOTS:
     void keysSelect_data()
     {
         using Keys = QList<QKeyCombination>;
-        QTest::addColumn<Keys>("keys");
-        QTest::addColumn<QString>("selection");
+        const auto row = velmtest::columns<Keys, QString>("keys", "selection");
         const QKeyCombination shiftDown = Qt::SHIFT | Qt::Key_Down;
-        QTest::addRow("Down takes the first row") << Keys{Qt::Key_Down} << "0 (0)";
-        QTest::addRow("End and Up") << Keys{Qt::Key_End, Qt::Key_Up} << "28 (28)";
-        QTest::addRow("a page is what fits") << Keys{Qt::Key_Home, Qt::Key_PageDown} << "8 (8)";
-        QTest::addRow("Shift extends and takes back")
-            << Keys{Qt::Key_Home, shiftDown, shiftDown, shiftDown, Qt::SHIFT | Qt::Key_Up} << "0 1 2 (0)";
-        QTest::addRow("a step after Shift begins at the current row")
-            << Keys{Qt::Key_Home, shiftDown, shiftDown, Qt::Key_Down} << "1 (1)";
-        QTest::addRow("letters find a name")
-            << Keys{Qt::Key_R, Qt::Key_O, Qt::Key_W, Qt::Key_Space, Qt::Key_2} << "2 (2)";
-        QTest::addRow("letters go round the end") << Keys{Qt::Key_End, Qt::Key_R} << "0 (0)";
+        row("Down takes the first row", Keys{Qt::Key_Down}, "0 (0)");
+        row("End and Up", Keys{Qt::Key_End, Qt::Key_Up}, "28 (28)");
+        row("a page is what fits", Keys{Qt::Key_Home, Qt::Key_PageDown}, "8 (8)");
+        row("Shift extends and takes back", Keys{Qt::Key_Home, shiftDown, shiftDown, shiftDown, Qt::SHIFT | Qt::Key_Up},
+            "0 1 2 (0)");
+        row("a step after Shift begins at the current row", Keys{Qt::Key_Home, shiftDown, shiftDown, Qt::Key_Down},
+            "1 (1)");
+        row("letters find a name", Keys{Qt::Key_R, Qt::Key_O, Qt::Key_W, Qt::Key_Space, Qt::Key_2}, "2 (2)");
+        row("letters go round the end", Keys{Qt::Key_End, Qt::Key_R}, "0 (0)");
     }
     void keysSelect()
     {
@@ -313,7 +312,7 @@ private Q_SLOTS:
     void theHeaderStaysAboveItsColumns()
     {
         // Uneven widths, of which the view guesses after a jump.
-        ShownTable t(30, [](Rows& rows) {
+        ShownTable t(30, [](SampleRows& rows) {
             for (int column = 4; column < 40; ++column)
                 rows.columns().columns.push_back(ColumnBuilder(column, 0, QString("Column %1").arg(column), "more")
                                                      .initialWidth(column < 20 ? 40 : 200));
@@ -339,7 +338,7 @@ private Q_SLOTS:
     void anotherSourceHasOtherRoles()
     {
         ShownTable t;
-        Rows other(5);
+        SampleRows other(5);
         other.columns().columns.resize(3);
         other.ownNames = {{Qt::UserRole, "first"}, {Qt::UserRole + 1, "second"}};
         t.model.setSourceModel(&other);
@@ -354,7 +353,7 @@ private Q_SLOTS:
 
     void selectionMarksAddRows()
     {
-        ShownTable t(10, [](Rows& rows) { rows.columns().columns[3].selectionColumn = true; });
+        ShownTable t(10, [](SampleRows& rows) { rows.columns().columns[3].selectionColumn = true; });
         t.click(t.point(2, 0));
         t.click(t.point(4, 3));
         QCOMPARE(t.selection(), QStringLiteral("2 4 (4)"));
@@ -368,13 +367,12 @@ private Q_SLOTS:
 
     void theModelMayGoFirst()
     {
-        Rows rows(20);
+        SampleRows rows(20);
         auto model = std::make_unique<SortFilterSelectModel>();
         model->setSourceModel(&rows);
         PageEngine engine;
         Shown shown(
             engine.load("ModelTable {}", {{QStringLiteral("model"), QVariant::fromValue<QObject*>(model.get())}}));
-        QVERIFY(shown.isReady());
         shown.press(Qt::Key_Down);
         shown.press(Qt::Key_F2);
         shown.window()->grabWindow();
@@ -391,9 +389,5 @@ private:
     std::optional<TemporaryConfig> m_config;
 };
 
-int main(int argc, char** argv)
-{
-    return runPageTest<TestControlsTable>(argc, argv);
-}
-
+PAGE_TEST_MAIN(TestControlsTable)
 #include "tst_controlstable.moc"

@@ -1,4 +1,5 @@
 #include "shownpage.h"
+#include "support/table.h"
 #include "velm/models/treemodel/treemodel.h"
 
 #include <QSignalSpy>
@@ -76,226 +77,196 @@ class TestControlsTree : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void keysWalkTheTree_data();
-    void keysWalkTheTree();
-    void theMouseOpensAndActivates();
-    void aRowIsDraggedOutOfTheTree();
-    void theMenuIsAskedForAtItsRow();
-    void openRowsOutliveResetsAndPages();
-    void theCurrentRowComesIntoView();
-    void aLargeTreeMakesFewRows();
+    void keysWalkTheTree_data()
+    {
+        const auto row = velmtest::columns<QList<int>, QString, int>("keys", "current", "count");
+        row("Down takes the first row", {Qt::Key_Down}, "Alpha", 3);
+        row("Down passes what is closed", {Qt::Key_Down, Qt::Key_Down}, "Beta", 3);
+        row("Down stops at the end", {Qt::Key_End, Qt::Key_Down}, "Gamma & more", 3);
+        row("Right opens", {Qt::Key_Home, Qt::Key_Right}, "Alpha", 5);
+        row("Right again goes to the first child", {Qt::Key_Home, Qt::Key_Right, Qt::Key_Right}, "Apple", 5);
+        row("Right on a leaf stays", {Qt::Key_Home, Qt::Key_Right, Qt::Key_Right, Qt::Key_Right}, "Apple", 5);
+        row("Left goes to the parent", {Qt::Key_Home, Qt::Key_Right, Qt::Key_Right, Qt::Key_Left}, "Alpha", 5);
+        row("Left again closes", {Qt::Key_Home, Qt::Key_Right, Qt::Key_Right, Qt::Key_Left, Qt::Key_Left}, "Alpha", 3);
+        row("Left at the top stays", {Qt::Key_Home, Qt::Key_Left}, "Alpha", 3);
+        row("Left without a current row is nothing", {Qt::Key_Left, Qt::Key_Right}, "", 3);
+        row("a page is what fits", {Qt::Key_Home, Qt::Key_Right, Qt::Key_PageDown}, "Beta", 5);
+        row("a letter finds a shown row", {Qt::Key_B}, "Beta", 3);
+        row("a letter goes round the end", {Qt::Key_End, Qt::Key_A}, "Alpha", 3);
+        row("letters narrow the search", {Qt::Key_Home, Qt::Key_Right, Qt::Key_A, Qt::Key_V}, "Avocado", 5);
+        row("a blank is a letter, too", {Qt::Key_G, Qt::Key_A, Qt::Key_M, Qt::Key_M, Qt::Key_A, Qt::Key_Space},
+            "Gamma & more", 3);
+        row("the same letter goes on", {Qt::Key_Home, Qt::Key_Right, Qt::Key_A, Qt::Key_A}, "Avocado", 5);
+        row("closed rows aren't found", {Qt::Key_End, Qt::Key_A, Qt::Key_P}, "Alpha", 3);
+    }
+    void keysWalkTheTree()
+    {
+        QFETCH(QList<int>, keys);
+        QFETCH(QString, current);
+        QFETCH(int, count);
+        NameTree tree;
+        fill(tree);
+        ShownTree view(tree);
+        for (const int key : keys)
+            view.shown().press(Qt::Key(key));
+        QCOMPARE(view.current(), current);
+        QCOMPARE(view.count(), count);
+    }
+
+    void theMouseOpensAndActivates()
+    {
+        NameTree tree;
+        fill(tree);
+        ShownTree view(tree);
+        QSignalSpy activated(view.view(), SIGNAL(activated(QVariant)));
+        QTest::mouseClick(view.shown().window(), Qt::LeftButton, {}, view.point(1));
+        QCOMPARE(view.current(), QStringLiteral("Beta"));
+        QVERIFY(activated.isEmpty());
+        QTest::mouseDClick(view.shown().window(), Qt::LeftButton, {}, view.point(0));
+        QCOMPARE(activated.takeFirst().first().value<QModelIndex>(), tree.index(0, 0));
+        QVERIFY(activated.isEmpty());
+        view.shown().press(Qt::Key_Enter);
+        QCOMPARE(activated.takeFirst().first().value<QModelIndex>(), tree.index(0, 0));
+        // The mark at the left opens and closes; a double click on it is two clicks.
+        QTest::mouseClick(view.shown().window(), Qt::LeftButton, {}, view.point(0, 13));
+        QTRY_COMPARE(view.count(), 5);
+        QVERIFY(tree.wantsToBeExpanded(tree.index(0, 0)));
+        QTest::mouseClick(view.shown().window(), Qt::LeftButton, {}, view.point(0, 13));
+        QTRY_COMPARE(view.count(), 3);
+        QVERIFY(!tree.wantsToBeExpanded(tree.index(0, 0)));
+        QVERIFY(activated.isEmpty());
+    }
+
+    void aRowIsDraggedOutOfTheTree()
+    {
+        NameTree tree;
+        fill(tree);
+        ShownTree view(tree);
+        QSignalSpy dropped(view.view(), SIGNAL(dropped(QVariant)));
+        QSignalSpy activated(view.view(), SIGNAL(activated(QVariant)));
+        const auto drag = [&](int row, const std::function<void()>& onTheWay = {}) {
+            QTest::mousePress(view.shown().window(), Qt::LeftButton, {}, view.point(row));
+            for (const int way : {30, 60})
+                QTest::mouseMove(view.shown().window(), view.point(row) + QPoint(0, way));
+            if (onTheWay)
+                onTheWay();
+            QTest::mouseMove(view.shown().window(), QPoint(480, 380));
+            QTest::mouseRelease(view.shown().window(), Qt::LeftButton, {}, QPoint(480, 380));
+        };
+        drag(1);
+        QCOMPARE(dropped.count(), 1);
+        QCOMPARE(dropped.takeFirst().first().value<QModelIndex>(), tree.index(1, 0));
+        QCOMPARE(view.current(), QStringLiteral("Beta"));
+        drag(0); // which isn't for it
+        QVERIFY(dropped.isEmpty());
+        drag(1, [&] { view.shown().press(Qt::Key_Escape); });
+        QVERIFY(dropped.isEmpty());
+        // Such a row is a row all the same.
+        QVERIFY(activated.isEmpty());
+        QTest::mouseDClick(view.shown().window(), Qt::LeftButton, {}, view.point(1));
+        QCOMPARE(activated.count(), 1);
+        QTest::mouseClick(view.shown().window(), Qt::LeftButton, {}, view.point(1, 13));
+        QTRY_COMPARE(view.count(), 4);
+        QTest::mouseClick(view.shown().window(), Qt::LeftButton, {}, view.point(1, 13));
+        QTRY_COMPARE(view.count(), 3);
+
+        drag(1, [&] { tree.deleteItem(QModelIndex(), 1); });
+        QCOMPARE(view.count(), 2);
+        QVERIFY(dropped.isEmpty());
+    }
+
+    void theMenuIsAskedForAtItsRow()
+    {
+        NameTree tree;
+        fill(tree);
+        ShownTree view(tree);
+        QSignalSpy asked(view.view(), SIGNAL(contextMenuRequested(QVariant, QPointF)));
+        QVERIFY(asked.isValid());
+        QTest::mouseClick(view.shown().window(), Qt::RightButton, {}, view.point(1));
+        QTRY_COMPARE(asked.count(), 1);
+        QCOMPARE(view.current(), QStringLiteral("Beta"));
+        QVariantList arguments = asked.takeFirst();
+        QCOMPARE(arguments[0].value<QModelIndex>(), tree.index(1, 0));
+        QCOMPARE(arguments[1].toPointF().toPoint(), view.point(1));
+        view.shown().press(Qt::Key_Menu);
+        QCOMPARE(asked.count(), 1);
+    }
+
+    void openRowsOutliveResetsAndPages()
+    {
+        NameTree tree;
+        fill(tree);
+        {
+            ShownTree view(tree);
+            view.shown().press(Qt::Key_Home);
+            view.shown().press(Qt::Key_Right);
+            view.shown().press(Qt::Key_Down);
+            view.shown().press(Qt::Key_Down);
+            view.shown().press(Qt::Key_Right);
+            QCOMPARE(view.count(), 6);
+        }
+        ShownTree view(tree);
+        QCOMPARE(view.count(), 6);
+        std::unordered_set<unsigned long long> expanded;
+        tree.saveExpandedState(expanded);
+        {
+            const auto batch = tree.scopedBatchChanges();
+            tree.reset();
+            fill(tree);
+        }
+        QCOMPARE(view.count(), 3);
+        QVERIFY(!view.currentIndex().isValid());
+        tree.restoreExpandedState(expanded);
+        QCOMPARE(view.count(), 6);
+        // The owner's own word.
+        tree.setWantsToBeExpanded(tree.index(1, 0), true);
+        QCOMPARE(view.count(), 7);
+        // A value that the page reads.
+        QCOMPARE(tree.index(0, 0).data(getWantsToBeExpandedRole()), QVariant(true));
+    }
+
+    void theCurrentRowComesIntoView()
+    {
+        NameTree tree;
+        for (int row = 0; row < 50; ++row)
+            tree.appendItem(tree.appendItem({}, QStringLiteral("Row %1").arg(row)),
+                            QStringLiteral("Child %1").arg(row));
+        ShownTree view(tree);
+        QSignalSpy changed(view.view(), SIGNAL(currentIndexChanged()));
+        view.choose(tree.index(0, 0, tree.index(40, 0)));
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(view.count(), 51);
+        QVERIFY(tree.wantsToBeExpanded(tree.index(40, 0)));
+        auto* list = view.view()->property("view").value<QQuickItem*>();
+        const double top = list->property("contentY").toDouble();
+        QVERIFY(top <= 41 * 24 && top + list->height() >= 42 * 24);
+        view.shown().press(Qt::Key_Home);
+        QCOMPARE(list->property("contentY").toDouble(), 0.0);
+        view.view()->setProperty("currentIndex", QVariant());
+        QVERIFY(!view.currentIndex().isValid());
+    }
+
+    void aLargeTreeMakesFewRows()
+    {
+        NameTree tree;
+        tree.beginBatchChanges();
+        for (int row = 0; row < 1000; ++row) {
+            const QModelIndex parent = tree.appendItem({}, QStringLiteral("Row %1").arg(row));
+            for (int child = 0; child < 100; ++child)
+                tree.appendItem(parent, QStringLiteral("Child %1").arg(child));
+        }
+        tree.endBatchChanges();
+        ShownTree view(tree);
+        QCOMPARE(view.count(), 1000);
+        view.shown().press(Qt::Key_End);
+        view.shown().press(Qt::Key_Right);
+        view.shown().press(Qt::Key_End);
+        QCOMPARE(view.current(), QStringLiteral("Child 99"));
+        auto* list = view.view()->property("view").value<QQuickItem*>();
+        const auto* content = list->property("contentItem").value<QQuickItem*>();
+        QVERIFY2(content->childItems().size() < 60, qPrintable(QString::number(content->childItems().size())));
+    }
 };
 
-void TestControlsTree::keysWalkTheTree_data()
-{
-    QTest::addColumn<QList<int>>("keys");
-    QTest::addColumn<QString>("current");
-    QTest::addColumn<int>("count");
-    QTest::addRow("Down takes the first row") << QList<int>{Qt::Key_Down} << "Alpha" << 3;
-    QTest::addRow("Down passes what is closed") << QList<int>{Qt::Key_Down, Qt::Key_Down} << "Beta" << 3;
-    QTest::addRow("Down stops at the end") << QList<int>{Qt::Key_End, Qt::Key_Down} << "Gamma & more" << 3;
-    QTest::addRow("Right opens") << QList<int>{Qt::Key_Home, Qt::Key_Right} << "Alpha" << 5;
-    QTest::addRow("Right again goes to the first child")
-        << QList<int>{Qt::Key_Home, Qt::Key_Right, Qt::Key_Right} << "Apple" << 5;
-    QTest::addRow("Right on a leaf stays")
-        << QList<int>{Qt::Key_Home, Qt::Key_Right, Qt::Key_Right, Qt::Key_Right} << "Apple" << 5;
-    QTest::addRow("Left goes to the parent")
-        << QList<int>{Qt::Key_Home, Qt::Key_Right, Qt::Key_Right, Qt::Key_Left} << "Alpha" << 5;
-    QTest::addRow("Left again closes") << QList<int>{Qt::Key_Home, Qt::Key_Right, Qt::Key_Right, Qt::Key_Left,
-                                                     Qt::Key_Left}
-                                       << "Alpha" << 3;
-    QTest::addRow("Left at the top stays") << QList<int>{Qt::Key_Home, Qt::Key_Left} << "Alpha" << 3;
-    QTest::addRow("Left without a current row is nothing") << QList<int>{Qt::Key_Left, Qt::Key_Right} << "" << 3;
-    QTest::addRow("a page is what fits") << QList<int>{Qt::Key_Home, Qt::Key_Right, Qt::Key_PageDown} << "Beta" << 5;
-    QTest::addRow("a letter finds a shown row") << QList<int>{Qt::Key_B} << "Beta" << 3;
-    QTest::addRow("a letter goes round the end") << QList<int>{Qt::Key_End, Qt::Key_A} << "Alpha" << 3;
-    QTest::addRow("letters narrow the search")
-        << QList<int>{Qt::Key_Home, Qt::Key_Right, Qt::Key_A, Qt::Key_V} << "Avocado" << 5;
-    QTest::addRow("a blank is a letter, too")
-        << QList<int>{Qt::Key_G, Qt::Key_A, Qt::Key_M, Qt::Key_M, Qt::Key_A, Qt::Key_Space} << "Gamma & more" << 3;
-    QTest::addRow("the same letter goes on")
-        << QList<int>{Qt::Key_Home, Qt::Key_Right, Qt::Key_A, Qt::Key_A} << "Avocado" << 5;
-    QTest::addRow("closed rows aren't found") << QList<int>{Qt::Key_End, Qt::Key_A, Qt::Key_P} << "Alpha" << 3;
-}
-
-void TestControlsTree::keysWalkTheTree()
-{
-    QFETCH(QList<int>, keys);
-    QFETCH(QString, current);
-    QFETCH(int, count);
-    NameTree tree;
-    fill(tree);
-    ShownTree view(tree);
-    QVERIFY(view.shown().isReady());
-    for (const int key : keys)
-        view.shown().press(Qt::Key(key));
-    QCOMPARE(view.current(), current);
-    QCOMPARE(view.count(), count);
-}
-
-void TestControlsTree::theMouseOpensAndActivates()
-{
-    NameTree tree;
-    fill(tree);
-    ShownTree view(tree);
-    QVERIFY(view.shown().isReady());
-    QSignalSpy activated(view.view(), SIGNAL(activated(QVariant)));
-    QTest::mouseClick(view.shown().window(), Qt::LeftButton, {}, view.point(1));
-    QCOMPARE(view.current(), QStringLiteral("Beta"));
-    QVERIFY(activated.isEmpty());
-    QTest::mouseDClick(view.shown().window(), Qt::LeftButton, {}, view.point(0));
-    QCOMPARE(activated.takeFirst().first().value<QModelIndex>(), tree.index(0, 0));
-    QVERIFY(activated.isEmpty());
-    view.shown().press(Qt::Key_Enter);
-    QCOMPARE(activated.takeFirst().first().value<QModelIndex>(), tree.index(0, 0));
-    // The mark at the left opens and closes; a double click on it is two clicks.
-    QTest::mouseClick(view.shown().window(), Qt::LeftButton, {}, view.point(0, 13));
-    QTRY_COMPARE(view.count(), 5);
-    QVERIFY(tree.wantsToBeExpanded(tree.index(0, 0)));
-    QTest::mouseClick(view.shown().window(), Qt::LeftButton, {}, view.point(0, 13));
-    QTRY_COMPARE(view.count(), 3);
-    QVERIFY(!tree.wantsToBeExpanded(tree.index(0, 0)));
-    QVERIFY(activated.isEmpty());
-}
-
-void TestControlsTree::aRowIsDraggedOutOfTheTree()
-{
-    NameTree tree;
-    fill(tree);
-    ShownTree view(tree);
-    QVERIFY(view.shown().isReady());
-    QSignalSpy dropped(view.view(), SIGNAL(dropped(QVariant)));
-    QSignalSpy activated(view.view(), SIGNAL(activated(QVariant)));
-    const auto drag = [&](int row, const std::function<void()>& onTheWay = {}) {
-        QTest::mousePress(view.shown().window(), Qt::LeftButton, {}, view.point(row));
-        for (const int way : {30, 60})
-            QTest::mouseMove(view.shown().window(), view.point(row) + QPoint(0, way));
-        if (onTheWay)
-            onTheWay();
-        QTest::mouseMove(view.shown().window(), QPoint(480, 380));
-        QTest::mouseRelease(view.shown().window(), Qt::LeftButton, {}, QPoint(480, 380));
-    };
-    drag(1);
-    QCOMPARE(dropped.count(), 1);
-    QCOMPARE(dropped.takeFirst().first().value<QModelIndex>(), tree.index(1, 0));
-    QCOMPARE(view.current(), QStringLiteral("Beta"));
-    drag(0); // which isn't for it
-    QVERIFY(dropped.isEmpty());
-    drag(1, [&] { view.shown().press(Qt::Key_Escape); });
-    QVERIFY(dropped.isEmpty());
-    // Such a row is a row all the same.
-    QVERIFY(activated.isEmpty());
-    QTest::mouseDClick(view.shown().window(), Qt::LeftButton, {}, view.point(1));
-    QCOMPARE(activated.count(), 1);
-    QTest::mouseClick(view.shown().window(), Qt::LeftButton, {}, view.point(1, 13));
-    QTRY_COMPARE(view.count(), 4);
-    QTest::mouseClick(view.shown().window(), Qt::LeftButton, {}, view.point(1, 13));
-    QTRY_COMPARE(view.count(), 3);
-
-    drag(1, [&] { tree.deleteItem(QModelIndex(), 1); });
-    QCOMPARE(view.count(), 2);
-    QVERIFY(dropped.isEmpty());
-}
-
-void TestControlsTree::theMenuIsAskedForAtItsRow()
-{
-    NameTree tree;
-    fill(tree);
-    ShownTree view(tree);
-    QVERIFY(view.shown().isReady());
-    QSignalSpy asked(view.view(), SIGNAL(contextMenuRequested(QVariant, QPointF)));
-    QVERIFY(asked.isValid());
-    QTest::mouseClick(view.shown().window(), Qt::RightButton, {}, view.point(1));
-    QTRY_COMPARE(asked.count(), 1);
-    QCOMPARE(view.current(), QStringLiteral("Beta"));
-    QVariantList arguments = asked.takeFirst();
-    QCOMPARE(arguments[0].value<QModelIndex>(), tree.index(1, 0));
-    QCOMPARE(arguments[1].toPointF().toPoint(), view.point(1));
-    view.shown().press(Qt::Key_Menu);
-    QCOMPARE(asked.count(), 1);
-}
-
-void TestControlsTree::openRowsOutliveResetsAndPages()
-{
-    NameTree tree;
-    fill(tree);
-    {
-        ShownTree view(tree);
-        QVERIFY(view.shown().isReady());
-        view.shown().press(Qt::Key_Home);
-        view.shown().press(Qt::Key_Right);
-        view.shown().press(Qt::Key_Down);
-        view.shown().press(Qt::Key_Down);
-        view.shown().press(Qt::Key_Right);
-        QCOMPARE(view.count(), 6);
-    }
-    ShownTree view(tree);
-    QVERIFY(view.shown().isReady());
-    QCOMPARE(view.count(), 6);
-    std::unordered_set<unsigned long long> expanded;
-    tree.saveExpandedState(expanded);
-    {
-        const auto batch = tree.scopedBatchChanges();
-        tree.reset();
-        fill(tree);
-    }
-    QCOMPARE(view.count(), 3);
-    QVERIFY(!view.currentIndex().isValid());
-    tree.restoreExpandedState(expanded);
-    QCOMPARE(view.count(), 6);
-    // The owner's own word.
-    tree.setWantsToBeExpanded(tree.index(1, 0), true);
-    QCOMPARE(view.count(), 7);
-    // A value that the page reads.
-    QCOMPARE(tree.index(0, 0).data(getWantsToBeExpandedRole()), QVariant(true));
-}
-
-void TestControlsTree::theCurrentRowComesIntoView()
-{
-    NameTree tree;
-    for (int row = 0; row < 50; ++row)
-        tree.appendItem(tree.appendItem({}, QStringLiteral("Row %1").arg(row)), QStringLiteral("Child %1").arg(row));
-    ShownTree view(tree);
-    QVERIFY(view.shown().isReady());
-    QSignalSpy changed(view.view(), SIGNAL(currentIndexChanged()));
-    view.choose(tree.index(0, 0, tree.index(40, 0)));
-    QCOMPARE(changed.count(), 1);
-    QCOMPARE(view.count(), 51);
-    QVERIFY(tree.wantsToBeExpanded(tree.index(40, 0)));
-    auto* list = view.view()->property("view").value<QQuickItem*>();
-    const double top = list->property("contentY").toDouble();
-    QVERIFY(top <= 41 * 24 && top + list->height() >= 42 * 24);
-    view.shown().press(Qt::Key_Home);
-    QCOMPARE(list->property("contentY").toDouble(), 0.0);
-    view.view()->setProperty("currentIndex", QVariant());
-    QVERIFY(!view.currentIndex().isValid());
-}
-
-void TestControlsTree::aLargeTreeMakesFewRows()
-{
-    NameTree tree;
-    tree.beginBatchChanges();
-    for (int row = 0; row < 1000; ++row) {
-        const QModelIndex parent = tree.appendItem({}, QStringLiteral("Row %1").arg(row));
-        for (int child = 0; child < 100; ++child)
-            tree.appendItem(parent, QStringLiteral("Child %1").arg(child));
-    }
-    tree.endBatchChanges();
-    ShownTree view(tree);
-    QVERIFY(view.shown().isReady());
-    QCOMPARE(view.count(), 1000);
-    view.shown().press(Qt::Key_End);
-    view.shown().press(Qt::Key_Right);
-    view.shown().press(Qt::Key_End);
-    QCOMPARE(view.current(), QStringLiteral("Child 99"));
-    auto* list = view.view()->property("view").value<QQuickItem*>();
-    const auto* content = list->property("contentItem").value<QQuickItem*>();
-    QVERIFY2(content->childItems().size() < 60, qPrintable(QString::number(content->childItems().size())));
-}
-
-int main(int argc, char** argv)
-{
-    return velmtest::runPageTest<TestControlsTree>(argc, argv);
-}
-
+PAGE_TEST_MAIN(TestControlsTree)
 #include "tst_controlstree.moc"

@@ -15,6 +15,7 @@ struct FakeFilterProperty
     QString type; ///< a key of velm::filter::EDefaultValueType
     QStringList path;
     QStringList values;
+    QString unit = {};
 };
 
 /// A fixed list of properties of entities.
@@ -29,6 +30,7 @@ public:
     int getNrProperties() const override { return static_cast<int>(m_properties.size()); }
     QString getName(int index) const override { return row(index).name; }
     QString getValueType(int index) const override { return row(index).type; }
+    QString getUnit(int index) const override { return row(index).unit; }
     QStringList getPath(int index) const override { return row(index).path; }
     QStringList getValues(int index) const override
     {

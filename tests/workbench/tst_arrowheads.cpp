@@ -4,6 +4,7 @@
 #include "od/oddbdimension.h"
 #include "props/arrowheaddialogcontroller.h"
 #include "props/arrowheadrecords.h"
+#include "support/table.h"
 #include "workbench/dxftexts.h"
 
 #include <wx/defs.h>
@@ -31,114 +32,104 @@ class ArrowheadsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void leadersAreDrawnWithTheirArrowhead_data();
-    void leadersAreDrawnWithTheirArrowhead();
-    void lineBeginsBehindTheArrowhead();
-    void leaderHasALength();
-    void namesAreFoundWithoutCase();
-    void picturesShowTheArrowheads();
-    void chooserOffersBlocksAndBeginsWithTheCurrentOne();
-};
-
-void ArrowheadsTest::leadersAreDrawnWithTheirArrowhead_data()
-{
-    QTest::addColumn<QByteArray>("entity");
-    QTest::addColumn<QString>("expected");
-    const QByteArray way = "|10 0|20 0|10 8|20 0|10 9|20 1";
-    QTest::newRow("a style without one has the closed, filled one") << "0 LEADER|3 Standard|71 1" + way << "4* 3";
-    QTest::newRow("one of the style's") << "0 LEADER|3 Dots|71 1" + way << "25 3";
-    QTest::newRow("a block of the drawing") << "0 LEADER|3 Doors|71 1" + way << "2 3";
-    QTest::newRow("a style that nobody knows") << "0 LEADER|3 Nothing|71 1" + way << "4* 3";
-    QTest::newRow("switched off") << "0 LEADER|3 Dots|71 0" + way << "3";
-    QTest::newRow("a line too short for it") << QByteArray("0 LEADER|3 Dots|71 1|10 0|20 0|10 1|20 0") << "2";
-    QTest::newRow("a single point") << QByteArray("0 LEADER|3 Dots|71 1|10 3|20 0") << "1";
-}
-
-void ArrowheadsTest::leadersAreDrawnWithTheirArrowhead()
-{
-    QFETCH(QByteArray, entity);
-    QFETCH(QString, expected);
-    const DxfReadResult result = readText(drawing(entity, blocks, tables));
-    QCOMPARE(qt(result.error), QString());
-    QCOMPARE(pieces(result), expected);
-}
-
-void ArrowheadsTest::lineBeginsBehindTheArrowhead()
-{
-    const DxfReadResult result = readText(drawing("0 LEADER|3 Dots|71 1|10 5|20 5|10 5|20 15", blocks, tables));
-    auto* leader = result.database->modelSpace()->entities()[0].open<OdDbLeader>();
-    const auto from = [&] {
-        const Tessellation tessellation = tessellate(*result.database);
-        return tessellation.points[tessellation.pieces.back().first].y;
-    };
-    QCOMPARE(from(), 5.5); // half of a dot of size 0.5, twice as large by the scale
-    leader->arrowhead = OdString(L"_none");
-    QCOMPARE(from(), 5.0);
-    QCOMPARE(pieces(result), "2");
-    leader->arrowhead = OdString(); // its own, and the closed, filled one
-    QCOMPARE(from(), 6.0);
-    leader->arrowhead = OdString(L"no such block");
-    QCOMPARE(pieces(result), "2");
-}
-
-void ArrowheadsTest::leaderHasALength()
-{
-    OdDbLeader leader;
-    QCOMPARE(entityGeometry(leader).length, 0.0);
-    leader.vertices = {{1, 1, 0}, {4, 5, 0}, {4, 7, 0}};
-    QCOMPARE(entityGeometry(leader).length, 7.0);
-}
-
-void ArrowheadsTest::namesAreFoundWithoutCase()
-{
-    QCOMPARE(findArrowhead(L""), &arrowheads().front());
-    QCOMPARE(findArrowhead(L"_ArchTick")->name, "Architectural tick");
-    QVERIFY(!findArrowhead(L"ArchTick"));
-    for (const Arrowhead& arrowhead : arrowheads())
-        QCOMPARE(findArrowhead(arrowhead.internalName), &arrowhead);
-}
-
-void ArrowheadsTest::picturesShowTheArrowheads()
-{
-    const auto common = arrowheadRecords({40, 21}, Qt::red);
-    QCOMPARE(common.size(), std::size_t(commonArrowheads));
-    const auto ink = [](const QImage& image) {
-        int count = 0;
-        for (int y = 0; y < image.height(); ++y)
-            for (int x = 0; x < image.width(); ++x)
-                count += image.pixelColor(x, y).alpha() > 128 ? 1 : 0;
-        return count;
-    };
-    // The line alone takes less than its arrowheads, and the filled one more than the blank one.
-    const int filled = ink(arrowheadRecord({}, {40, 21}, Qt::red).preview);
-    const int blank = ink(arrowheadRecord("_ClosedBlank", {40, 21}, Qt::red).preview);
-    const int none = ink(arrowheadRecord("_None", {40, 21}, Qt::red).preview);
-    QVERIFY(none > 20 && none < blank && blank < filled);
-    QCOMPARE(common[0].preview.pixelColor(35, 10), QColor(Qt::red));
-    QVERIFY(arrowheadRecord("_Dot", {}, Qt::red).preview.isNull());
-    QVERIFY(arrowheadRecord("Door", {40, 21}, Qt::red).preview.isNull());
-    QCOMPARE(arrowheadRecord("Door", {40, 21}, Qt::red).shownName, "Door");
-}
-
-void ArrowheadsTest::chooserOffersBlocksAndBeginsWithTheCurrentOne()
-{
-    OdDbDatabase database;
-    database.addBlock(L"Door");
-    database.addBlock(L"_Dot"); // as files have it that use the arrowhead
-    const auto all = allArrowheadRecords(&database, {40, 21}, Qt::black);
-    QCOMPARE(all.size(), arrowheads().size() + 1);
-    QCOMPARE(allArrowheadRecords(nullptr, {40, 21}, Qt::black).size(), arrowheads().size());
-
-    ArrowheadDialogController controller(all, "_dot");
-    QCOMPARE(controller.names().at(controller.property("chosen").toInt()), "Dot");
-    QVERIFY(controller.setProperty("chosen", int(all.size()) - 1));
-    QCOMPARE(controller.chosenRecord().internalName, "Door");
-    for (const int bad : {-1, int(all.size()), INT_MAX, INT_MIN}) {
-        controller.setProperty("chosen", bad);
-        QVERIFY(controller.chosenRecord().internalName.isEmpty());
-        QVERIFY(!controller.beforeEndModal(wxID_OK)); // nothing is chosen
+    void leadersAreDrawnWithTheirArrowhead_data()
+    {
+        const auto row = velmtest::columns<QByteArray, QString>("entity", "expected");
+        const QByteArray way = "|10 0|20 0|10 8|20 0|10 9|20 1";
+        row("a style without one has the closed, filled one", "0 LEADER|3 Standard|71 1" + way, "4* 3");
+        row("one of the style's", "0 LEADER|3 Dots|71 1" + way, "25 3");
+        row("a block of the drawing", "0 LEADER|3 Doors|71 1" + way, "2 3");
+        row("a style that nobody knows", "0 LEADER|3 Nothing|71 1" + way, "4* 3");
+        row("switched off", "0 LEADER|3 Dots|71 0" + way, "3");
+        row("a line too short for it", "0 LEADER|3 Dots|71 1|10 0|20 0|10 1|20 0", "2");
+        row("a single point", "0 LEADER|3 Dots|71 1|10 3|20 0", "1");
     }
-}
+    void leadersAreDrawnWithTheirArrowhead()
+    {
+        QFETCH(QByteArray, entity);
+        QFETCH(QString, expected);
+        const DxfReadResult result = readText(drawing(entity, blocks, tables));
+        QCOMPARE(qt(result.error), QString());
+        QCOMPARE(pieces(result), expected);
+    }
+
+    void lineBeginsBehindTheArrowhead()
+    {
+        const DxfReadResult result = readText(drawing("0 LEADER|3 Dots|71 1|10 5|20 5|10 5|20 15", blocks, tables));
+        auto* leader = result.database->modelSpace()->entities()[0].open<OdDbLeader>();
+        const auto from = [&] {
+            const Tessellation tessellation = tessellate(*result.database);
+            return tessellation.points[tessellation.pieces.back().first].y;
+        };
+        QCOMPARE(from(), 5.5); // half of a dot of size 0.5, twice as large by the scale
+        leader->arrowhead = OdString(L"_none");
+        QCOMPARE(from(), 5.0);
+        QCOMPARE(pieces(result), "2");
+        leader->arrowhead = OdString(); // its own, and the closed, filled one
+        QCOMPARE(from(), 6.0);
+        leader->arrowhead = OdString(L"no such block");
+        QCOMPARE(pieces(result), "2");
+    }
+
+    void leaderHasALength()
+    {
+        OdDbLeader leader;
+        QCOMPARE(entityGeometry(leader).length, 0.0);
+        leader.vertices = {{1, 1, 0}, {4, 5, 0}, {4, 7, 0}};
+        QCOMPARE(entityGeometry(leader).length, 7.0);
+    }
+
+    void namesAreFoundWithoutCase()
+    {
+        QCOMPARE(findArrowhead(L""), &arrowheads().front());
+        QCOMPARE(findArrowhead(L"_ArchTick")->name, "Architectural tick");
+        QVERIFY(!findArrowhead(L"ArchTick"));
+        for (const Arrowhead& arrowhead : arrowheads())
+            QCOMPARE(findArrowhead(arrowhead.internalName), &arrowhead);
+    }
+
+    void picturesShowTheArrowheads()
+    {
+        const auto common = arrowheadRecords({40, 21}, Qt::red);
+        QCOMPARE(common.size(), std::size_t(commonArrowheads));
+        const auto ink = [](const QImage& image) {
+            int count = 0;
+            for (int y = 0; y < image.height(); ++y)
+                for (int x = 0; x < image.width(); ++x)
+                    count += image.pixelColor(x, y).alpha() > 128 ? 1 : 0;
+            return count;
+        };
+        // The line alone takes less than its arrowheads, and the filled one more than the blank one.
+        const int filled = ink(arrowheadRecord({}, {40, 21}, Qt::red).preview);
+        const int blank = ink(arrowheadRecord("_ClosedBlank", {40, 21}, Qt::red).preview);
+        const int none = ink(arrowheadRecord("_None", {40, 21}, Qt::red).preview);
+        QVERIFY(none > 20 && none < blank && blank < filled);
+        QCOMPARE(common[0].preview.pixelColor(35, 10), QColor(Qt::red));
+        QVERIFY(arrowheadRecord("_Dot", {}, Qt::red).preview.isNull());
+        QVERIFY(arrowheadRecord("Door", {40, 21}, Qt::red).preview.isNull());
+        QCOMPARE(arrowheadRecord("Door", {40, 21}, Qt::red).shownName, "Door");
+    }
+
+    void chooserOffersBlocksAndBeginsWithTheCurrentOne()
+    {
+        OdDbDatabase database;
+        database.addBlock(L"Door");
+        database.addBlock(L"_Dot"); // as files have it that use the arrowhead
+        const auto all = allArrowheadRecords(&database, {40, 21}, Qt::black);
+        QCOMPARE(all.size(), arrowheads().size() + 1);
+        QCOMPARE(allArrowheadRecords(nullptr, {40, 21}, Qt::black).size(), arrowheads().size());
+
+        ArrowheadDialogController controller(all, "_dot");
+        QCOMPARE(controller.names().at(controller.property("chosen").toInt()), "Dot");
+        QVERIFY(controller.setProperty("chosen", int(all.size()) - 1));
+        QCOMPARE(controller.chosenRecord().internalName, "Door");
+        for (const int bad : {-1, int(all.size()), INT_MAX, INT_MIN}) {
+            controller.setProperty("chosen", bad);
+            QVERIFY(controller.chosenRecord().internalName.isEmpty());
+            QVERIFY(!controller.beforeEndModal(wxID_OK)); // nothing is chosen
+        }
+    }
+};
 
 QTEST_GUILESS_MAIN(ArrowheadsTest)
 

@@ -5,6 +5,7 @@
 #include "od/oddbdatabase.h"
 #include "panels/propertytexts.h"
 #include "support/scopes.h"
+#include "support/table.h"
 #include "ut/config.h"
 #include "ut/themecolors.h"
 #include "velm/bridge/conversions.h"
@@ -54,11 +55,7 @@ private Q_SLOTS:
 
     void aColourIsDescribed_data()
     {
-        QTest::addColumn<OdCmColor>("color");
-        QTest::addColumn<int>("flags");
-        QTest::addColumn<bool>("layerOverride");
-        QTest::addColumn<QString>("dark");
-        QTest::addColumn<QString>("light");
+        velmtest::columns<OdCmColor, int, bool, QString, QString>("color", "flags", "layerOverride", "dark", "light");
         const auto row = [](const char* name, const OdCmColor& color, int flags, const char* dark,
                             const char* light = nullptr, bool layerOverride = false) {
             QTest::newRow(name) << color << flags << layerOverride << QString(dark) << QString(light ? light : dark);
@@ -155,12 +152,8 @@ private Q_SLOTS:
 
     void theDialogBeginsWithWhatItMayGive_data()
     {
-        QTest::addColumn<OdCmColor>("initial");
-        QTest::addColumn<int>("flags");
-        QTest::addColumn<QString>("former"); // and what there is to choose
-        const auto row = [](const char* name, const OdCmColor& initial, int flags, const char* former) {
-            QTest::newRow(name) << initial << flags << QString(former);
-        };
+        // The former colour, and what there is to choose.
+        const auto row = velmtest::columns<OdCmColor, int, QString>("initial", "flags", "former");
         row("an index", colorOf(30), 0, "Color 30: true");
         row("a true colour", OdCmColor::fromRGB(1, 2, 3), 65, "1,2,3: ByLayer block none true");
         row("a true colour where there are none", OdCmColor::fromRGB(1, 2, 3), 8, ":");

@@ -4,6 +4,7 @@
 #include "support/fakehost.h"
 #include "support/rowtext.h"
 #include "support/scopes.h"
+#include "support/table.h"
 
 #include <QAbstractItemModelTester>
 #include <QtTest>
@@ -99,13 +100,12 @@ private Q_SLOTS:
 
     void aBadNumberIsRefused_data()
     {
-        QTest::addColumn<int>("column");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("no number") << int(Model::TextHeightColumn) << "tall";
-        QTest::newRow("a height of zero") << int(Model::TextHeightColumn) << "0";
-        QTest::newRow("an arrow below zero") << int(Model::ArrowSizeColumn) << "-1";
-        QTest::newRow("an endless scale") << int(Model::ScaleColumn) << "inf";
-        QTest::newRow("broken decimals") << int(Model::DecimalsColumn) << "2.5";
+        const auto row = velmtest::columns<int, QString>("column", "text");
+        row("no number", int(Model::TextHeightColumn), "tall");
+        row("a height of zero", int(Model::TextHeightColumn), "0");
+        row("an arrow below zero", int(Model::ArrowSizeColumn), "-1");
+        row("an endless scale", int(Model::ScaleColumn), "inf");
+        row("broken decimals", int(Model::DecimalsColumn), "2.5");
     }
     void aBadNumberIsRefused()
     {

@@ -3,6 +3,7 @@
 #include "panels/entitiescontroller.h"
 #include "support/scopes.h"
 #include "support/signallog.h"
+#include "support/table.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
@@ -91,19 +92,16 @@ private Q_SLOTS:
 
     void outlinesAreMeasured_data()
     {
-        QTest::addColumn<std::vector<double>>("numbers"); // x, y and bulge of each vertex
-        QTest::addColumn<bool>("closed");
-        QTest::addColumn<double>("length");
-        QTest::addColumn<double>("area"); // below zero: none
+        // Each vertex has x, y and bulge; an area below zero is none.
+        const auto row =
+            velmtest::columns<std::vector<double>, bool, double, double>("numbers", "closed", "length", "area");
         const double pi = std::numbers::pi;
-        QTest::newRow("an open angle") << std::vector<double>{0, 0, 0, 3, 0, 0, 3, 4, 0} << false << 7.0 << -1.0;
-        QTest::newRow("a triangle, far away and clockwise")
-            << std::vector<double>{1e6, 0, 0, 1e6, 4, 0, 1e6 + 3, 0, 0} << true << 12.0 << 6.0;
-        QTest::newRow("a circle of two arcs, clockwise")
-            << std::vector<double>{0, 0, -1, 2, 0, -1} << true << 2 * pi << pi;
-        QTest::newRow("a square with half a disc cut out of one side")
-            << std::vector<double>{0, 0, -1, 2, 0, 0, 2, 2, 0, 0, 2, 0} << true << 6 + pi << 4 - pi / 2;
-        QTest::newRow("nothing at all") << std::vector<double>() << true << 0.0 << 0.0;
+        row("an open angle", {0, 0, 0, 3, 0, 0, 3, 4, 0}, false, 7.0, -1.0);
+        row("a triangle, far away and clockwise", {1e6, 0, 0, 1e6, 4, 0, 1e6 + 3, 0, 0}, true, 12.0, 6.0);
+        row("a circle of two arcs, clockwise", {0, 0, -1, 2, 0, -1}, true, 2 * pi, pi);
+        row("a square with half a disc cut out of one side", {0, 0, -1, 2, 0, 0, 2, 2, 0, 0, 2, 0}, true, 6 + pi,
+            4 - pi / 2);
+        row("nothing at all", std::vector<double>(), true, 0.0, 0.0);
     }
     void outlinesAreMeasured()
     {

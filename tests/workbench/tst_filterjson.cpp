@@ -5,6 +5,7 @@
 #include "support/fakefilterproperties.h"
 #include "support/fakehost.h"
 #include "support/scopes.h"
+#include "support/table.h"
 #include "velm/drawingprops/icolormodel.h"
 #include "velm/filter/filteroperatorsmodel.h"
 
@@ -84,30 +85,28 @@ class TestFilterJson : public QObject
 private Q_SLOTS:
     void aValueComesBackOnOtherRows_data()
     {
-        QTest::addColumn<int>("row");
-        QTest::addColumn<QVariant>("value");
-        const auto add = [](const char* name, int row, const QVariant& value) { QTest::newRow(name) << row << value; };
-        add("a text of any characters", 0, QString::fromUtf8("\"Ä\\ 中\n\U0001F600\t") + QChar(0));
-        add("an empty text", 0, QString());
-        add("several texts, an empty one among them", 1, QStringList{"A*", "", "B"});
-        add("no text at all", 1, QStringList());
-        add("a real that has no short form", 2, 0.1 + 0.2);
-        add("the largest real", 2, std::numeric_limits<double>::max());
-        add("the smallest real", 2, std::numeric_limits<double>::denorm_min());
-        add("a whole real", 2, -3.0);
-        add("the smallest integer", 3, INT_MIN);
-        add("the largest integer", 3, INT_MAX);
-        add("a choice", 4, 2);
-        add("several choices", 5, QVariantList{2, 0});
-        add("no choice", 5, QVariantList());
-        add("a boolean", 6, true);
-        add("a special lineweight", 7, 1);
-        add("a lineweight", 7, 3);
-        add("several colours", 8, QVariantList{1, 0, 8});
-        add("a transparency", 9, 90);
-        add("no value", 3, QVariant());
-        add("a value without a property", -1, QString("a"));
-        add("nothing at all", -1, QVariant());
+        const auto row = velmtest::columns<int, QVariant>("row", "value");
+        row("a text of any characters", 0, QString::fromUtf8("\"Ä\\ 中\n\U0001F600\t") + QChar(0));
+        row("an empty text", 0, QString());
+        row("several texts, an empty one among them", 1, QStringList{"A*", "", "B"});
+        row("no text at all", 1, QStringList());
+        row("a real that has no short form", 2, 0.1 + 0.2);
+        row("the largest real", 2, std::numeric_limits<double>::max());
+        row("the smallest real", 2, std::numeric_limits<double>::denorm_min());
+        row("a whole real", 2, -3.0);
+        row("the smallest integer", 3, INT_MIN);
+        row("the largest integer", 3, INT_MAX);
+        row("a choice", 4, 2);
+        row("several choices", 5, QVariantList{2, 0});
+        row("no choice", 5, QVariantList());
+        row("a boolean", 6, true);
+        row("a special lineweight", 7, 1);
+        row("a lineweight", 7, 3);
+        row("several colours", 8, QVariantList{1, 0, 8});
+        row("a transparency", 9, 90);
+        row("no value", 3, QVariant());
+        row("a value without a property", -1, QString("a"));
+        row("nothing at all", -1, QVariant());
     }
     void aValueComesBackOnOtherRows()
     {

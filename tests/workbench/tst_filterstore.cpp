@@ -1,6 +1,7 @@
 #include "filter/filterstore.h"
 
 #include "support/fakefilterproperties.h"
+#include "support/table.h"
 #include "velm/bridge/conversions.h"
 #include "velm/filter/filteroperatorsmodel.h"
 
@@ -84,30 +85,26 @@ private Q_SLOTS:
 
     void aFileThatIsNoFilterIsToldOnceAndKept_data()
     {
-        QTest::addColumn<QByteArray>("from");
-        QTest::addColumn<QByteArray>("to");
-        const auto add = [](const char* name, const char* from, const char* to) {
-            QTest::newRow(name) << QByteArray(from) << QByteArray(to);
-        };
-        add("the file is empty", "", "");
-        add("the file holds another text", "", "[General]\nname=a\n");
-        QTest::newRow("the file holds zeros") << QByteArray() << QByteArray(3, '\0');
-        add("the file holds a list", "", "[]");
-        add("the file holds another object", "", "{}");
-        add("something stands behind the filter", "\"version\": 1\n}", "\"version\": 1\n}\n}");
-        add("there is no version", "\"version\": 1", "\"other\": 1");
-        add("the version is below the first", "\"version\": 1", "\"version\": 0");
-        add("the version is a text", "\"version\": 1", "\"version\": \"1\"");
-        add("there is no name", "\"name\": \"a\"", "\"Name\": \"a\"");
-        add("the name is that of another file", "\"name\": \"a\"", "\"name\": \"A\"");
-        add("there are no conjunctions", "\"conjunctions\"", "\"filter\"");
-        add("a conjunction isn't a list", "\"conjunctions\": [", "\"conjunctions\": [ {},");
-        add("a tag isn't an object", "\"conjunctions\": [", "\"conjunctions\": [ [1],");
-        add("a tag has no value", "\"value\"", "\"Value\"");
-        add("a tag has no property", "\"property\"", "\"properties\"");
-        add("a property has no identity", "\"id\"", "\"Id\"");
-        add("a path isn't a list", "\"path\": [", "\"path\": 1, \"names\": [");
-        add("an operator isn't known", "\"Is\"", "\"is\"");
+        const auto row = velmtest::columns<QByteArray, QByteArray>("from", "to");
+        row("the file is empty", "", "");
+        row("the file holds another text", "", "[General]\nname=a\n");
+        row("the file holds zeros", QByteArray(), QByteArray(3, '\0'));
+        row("the file holds a list", "", "[]");
+        row("the file holds another object", "", "{}");
+        row("something stands behind the filter", "\"version\": 1\n}", "\"version\": 1\n}\n}");
+        row("there is no version", "\"version\": 1", "\"other\": 1");
+        row("the version is below the first", "\"version\": 1", "\"version\": 0");
+        row("the version is a text", "\"version\": 1", "\"version\": \"1\"");
+        row("there is no name", "\"name\": \"a\"", "\"Name\": \"a\"");
+        row("the name is that of another file", "\"name\": \"a\"", "\"name\": \"A\"");
+        row("there are no conjunctions", "\"conjunctions\"", "\"filter\"");
+        row("a conjunction isn't a list", "\"conjunctions\": [", "\"conjunctions\": [ {},");
+        row("a tag isn't an object", "\"conjunctions\": [", "\"conjunctions\": [ [1],");
+        row("a tag has no value", "\"value\"", "\"Value\"");
+        row("a tag has no property", "\"property\"", "\"properties\"");
+        row("a property has no identity", "\"id\"", "\"Id\"");
+        row("a path isn't a list", "\"path\": [", "\"path\": 1, \"names\": [");
+        row("an operator isn't known", "\"Is\"", "\"is\"");
     }
     void aFileThatIsNoFilterIsToldOnceAndKept()
     {
@@ -161,10 +158,9 @@ private Q_SLOTS:
 
     void aNewerFileNamesWhatItRequires_data()
     {
-        QTest::addColumn<QByteArray>("head");
-        QTest::addColumn<QString>("required");
-        QTest::newRow("the program's version") << QByteArray("\"version\": 2, \"requires\": \"27.1\"") << "27.1";
-        QTest::newRow("no program's version") << QByteArray("\"version\": 3") << "3";
+        const auto row = velmtest::columns<QByteArray, QString>("head", "required");
+        row("the program's version", "\"version\": 2, \"requires\": \"27.1\"", "27.1");
+        row("no program's version", "\"version\": 3", "3");
     }
     void aNewerFileNamesWhatItRequires()
     {

@@ -4,6 +4,7 @@
 #include "support/fakehost.h"
 #include "support/rowtext.h"
 #include "support/scopes.h"
+#include "support/table.h"
 
 #include <QAbstractItemModelTester>
 #include <QColor>
@@ -117,12 +118,7 @@ private Q_SLOTS:
 
     void aBadNameIsRefused_data()
     {
-        QTest::addColumn<QString>("layer");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("reason");
-        const auto row = [](const char* name, const char* layer, const char* entered, const char* reason) {
-            QTest::newRow(name) << layer << entered << reason;
-        };
+        const auto row = velmtest::columns<QString, QString, QString>("layer", "name", "reason");
         row("a name of another layer, in other letters", "Walls", "doors", "already");
         row("a forbidden character", "Walls", "Wa/lls", "characters");
         row("blanks alone", "Walls", "  ", "needs a name");

@@ -1,6 +1,7 @@
 #include "linetypes/linetypefile.h"
 
 #include "od/oddbdatabase.h"
+#include "support/table.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -30,23 +31,21 @@ class LineTypeFileTest : public QObject
 private Q_SLOTS:
     void readsWhatIsDefined_data()
     {
-        QTest::addColumn<QByteArray>("input");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("two linetypes and comments")
-            << QByteArray(";; x\n*A,first\n\n;; y\nA,1,-.5,0,-.5\n*B\nA,2,-1") << "A: first, 1 -0.5 0 -0.5 | B: , 2 -1";
-        QTest::newRow("lines that end as on other systems")
-            << QByteArray("*A,x\r\nA,1,-1\r*B,y\r\na,1,-1\r\n") << "A: x, 1 -1 | B: y, 1 -1";
-        QTest::newRow("blanks everywhere")
-            << QByteArray("  * A b , x, y \n\t a , +1. ,  -1e-1 \n") << "A b: x, y, 1 -0.1";
-        QTest::newRow("a byte order mark and UTF-8") << QByteArray("\xEF\xBB\xBF*Stra\xC3\x9F"
-                                                                   "e,\xE2\x80\x94\nA,1,-1")
-                                                     << QStringLiteral(u"Stra\u00DFe: \u2014, 1 -1");
-        QTest::newRow("UTF-16") << QByteArray("\xFF\xFE*\0A\0\n\0A\0,\0001\0,\0-\0001\0", 20) << "A: , 1 -1";
-        QTest::newRow("Latin-1") << QByteArray("*Stra\xDF"
-                                               "e\nA,1,-1")
-                                 << QStringLiteral(u"Stra\u00DFe: , 1 -1");
-        QTest::newRow("twelve parts") << QByteArray("*A\nA,1,-1,1,-1,1,-1,1,-1,1,-1,1,-1")
-                                      << "A: , 1 -1 1 -1 1 -1 1 -1 1 -1 1 -1";
+        const auto row = velmtest::columns<QByteArray, QString>("input", "expected");
+        row("two linetypes and comments", ";; x\n*A,first\n\n;; y\nA,1,-.5,0,-.5\n*B\nA,2,-1",
+            "A: first, 1 -0.5 0 -0.5 | B: , 2 -1");
+        row("lines that end as on other systems", "*A,x\r\nA,1,-1\r*B,y\r\na,1,-1\r\n", "A: x, 1 -1 | B: y, 1 -1");
+        row("blanks everywhere", "  * A b , x, y \n\t a , +1. ,  -1e-1 \n", "A b: x, y, 1 -0.1");
+        row("a byte order mark and UTF-8",
+            "\xEF\xBB\xBF*Stra\xC3\x9F"
+            "e,\xE2\x80\x94\nA,1,-1",
+            QStringLiteral(u"Stra\u00DFe: \u2014, 1 -1"));
+        row("UTF-16", QByteArray("\xFF\xFE*\0A\0\n\0A\0,\0001\0,\0-\0001\0", 20), "A: , 1 -1");
+        row("Latin-1",
+            "*Stra\xDF"
+            "e\nA,1,-1",
+            QStringLiteral(u"Stra\u00DFe: , 1 -1"));
+        row("twelve parts", "*A\nA,1,-1,1,-1,1,-1,1,-1,1,-1,1,-1", "A: , 1 -1 1 -1 1 -1 1 -1 1 -1 1 -1");
     }
     void readsWhatIsDefined()
     {
@@ -60,11 +59,7 @@ private Q_SLOTS:
 
     void skipsBadLinesAndTellsOfThem_data()
     {
-        QTest::addColumn<QByteArray>("bad");
-        QTest::addColumn<QString>("problem");
-        const auto row = [](const char* name, const char* bad, const char* problem) {
-            QTest::newRow(name) << QByteArray(bad) << QString::fromUtf8(problem);
-        };
+        const auto row = velmtest::columns<QByteArray, QString>("bad", "problem");
         row("no name", "*,x\nA,1,-1", "Line 3: the linetype has no name.");
         row("a name that is a pattern of names", "*A*,x\nA,1,-1",
             "Line 3: the name \"A*\" has a character that names can't contain.");

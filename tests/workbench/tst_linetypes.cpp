@@ -8,6 +8,7 @@
 #include "od/oddbdatabase.h"
 #include "support/rowtext.h"
 #include "support/scopes.h"
+#include "support/table.h"
 #include "velm/bridge/conversions.h"
 #include "velm/drawingprops/ilinetypemodel.h"
 #include "velm/images/imageconversions.h"
@@ -100,13 +101,11 @@ class LineTypesTest : public QObject
 private Q_SLOTS:
     void theListFollowsItsOptions_data()
     {
-        QTest::addColumn<int>("first");
-        QTest::addColumn<int>("second");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("all") << 0 << 0 << "ByLayer ByBlock Continuous L2 L10 Unused";
-        QTest::newRow("without those that every drawing has") << 1 << 0 << "Continuous L2 L10 Unused";
-        QTest::newRow("those in use") << 0 << 1 << "ByLayer ByBlock L2 L10";
-        QTest::newRow("both") << 1 << 1 << "L2 L10";
+        const auto row = velmtest::columns<int, int, QString>("first", "second", "expected");
+        row("all", 0, 0, "ByLayer ByBlock Continuous L2 L10 Unused");
+        row("without those that every drawing has", 1, 0, "Continuous L2 L10 Unused");
+        row("those in use", 0, 1, "ByLayer ByBlock L2 L10");
+        row("both", 1, 1, "L2 L10");
     }
     void theListFollowsItsOptions()
     {
@@ -149,23 +148,21 @@ private Q_SLOTS:
 
     void aPatternIsSeen_data()
     {
-        QTest::addColumn<QList<double>>("dashes");
-        QTest::addColumn<int>("length");
-        QTest::addColumn<QString>("expected");
+        const auto row = velmtest::columns<QList<double>, int, QString>("dashes", "length", "expected");
         const double nan = std::numeric_limits<double>::quiet_NaN();
         const double inf = std::numeric_limits<double>::infinity();
-        QTest::newRow("dashes") << QList<double>{6, -2} << 40 << "0-12 16-28 32-40";
-        QTest::newRow("dots have a pixel") << QList<double>{0, -2} << 12 << "0-1 4-5 8-9";
-        QTest::newRow("small ones are made larger") << QList<double>{0.2, -0.1} << 20 << "0-6 9-15 18-20";
-        QTest::newRow("large ones come twice") << QList<double>{600, -200} << 40 << "0-15 20-35";
-        QTest::newRow("a gap first") << QList<double>{-2, 2} << 10 << "3-5 8-10";
-        QTest::newRow("no pattern") << QList<double>{} << 10 << "0-10";
-        QTest::newRow("no gap") << QList<double>{1, 0} << 10 << "0-10";
-        QTest::newRow("nothing but gaps") << QList<double>{-1} << 10 << "";
-        QTest::newRow("no numbers") << QList<double>{nan, -1} << 10 << "0-10";
-        QTest::newRow("endless") << QList<double>{inf, -inf} << 10 << "0-10";
-        QTest::newRow("next to nothing") << QList<double>{1e-320, -1e-320} << 10 << "0-10";
-        QTest::newRow("no length") << QList<double>{1, -1} << 0 << "";
+        row("dashes", {6, -2}, 40, "0-12 16-28 32-40");
+        row("dots have a pixel", {0, -2}, 12, "0-1 4-5 8-9");
+        row("small ones are made larger", {0.2, -0.1}, 20, "0-6 9-15 18-20");
+        row("large ones come twice", {600, -200}, 40, "0-15 20-35");
+        row("a gap first", {-2, 2}, 10, "3-5 8-10");
+        row("no pattern", {}, 10, "0-10");
+        row("no gap", {1, 0}, 10, "0-10");
+        row("nothing but gaps", {-1}, 10, "");
+        row("no numbers", {nan, -1}, 10, "0-10");
+        row("endless", {inf, -inf}, 10, "0-10");
+        row("next to nothing", {1e-320, -1e-320}, 10, "0-10");
+        row("no length", {1, -1}, 0, "");
     }
     void aPatternIsSeen()
     {

@@ -5,32 +5,28 @@
 using namespace workbench;
 
 /// The start of the program where no settings can be stored.
-class WorkbenchStartTest : public QObject
+class WorkbenchStartTest : public WorkbenchTest
 {
     Q_OBJECT
 public:
-    explicit WorkbenchStartTest(Driver& driver) : m_driver(driver) {}
+    using WorkbenchTest::WorkbenchTest;
 
 private Q_SLOTS:
-    void settingsThatCannotBeStoredAreToldOnceAndTheProgramRuns();
-
-private:
-    Driver& m_driver;
+    void settingsThatCannotBeStoredAreToldOnceAndTheProgramRuns()
+    {
+        m_driver.waitForDialog("Settings");
+        QVERIFY2(m_driver.dialogText().contains("settings.ini"), qPrintable(m_driver.dialogText()));
+        m_driver.key("Return");
+        m_driver.waitForNoDialog();
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("settings\\.ini"));
+        m_driver.command("THEME LIGHT");
+        wxWindow& canvas = m_driver.app().frame()->canvas();
+        m_driver.waitFor("the light theme", [&] {
+            return m_driver.picture().pixelColor(m_driver.rectOf(canvas).center()).lightness() > 128;
+        });
+        QVERIFY(!m_driver.ask([&] { return m_driver.dialog() != nullptr; }));
+    }
 };
-
-void WorkbenchStartTest::settingsThatCannotBeStoredAreToldOnceAndTheProgramRuns()
-{
-    m_driver.waitForDialog("Settings");
-    QVERIFY2(m_driver.dialogText().contains("settings.ini"), qPrintable(m_driver.dialogText()));
-    m_driver.key("Return");
-    m_driver.waitForNoDialog();
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("settings\\.ini"));
-    m_driver.command("THEME LIGHT");
-    wxWindow& canvas = m_driver.app().frame()->canvas();
-    m_driver.waitFor("the light theme",
-                     [&] { return m_driver.picture().pixelColor(m_driver.rectOf(canvas).center()).lightness() > 128; });
-    QVERIFY(!m_driver.ask([&] { return m_driver.dialog() != nullptr; }));
-}
 
 int main(int argc, char** argv)
 {

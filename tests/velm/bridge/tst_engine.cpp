@@ -1,6 +1,7 @@
 #include "velm/bridge/engine.h"
 
 #include "support/scopes.h"
+#include "support/table.h"
 #include "ut/leaktracking.h"
 #include "ut/themecolors.h"
 #include "velm/units/qtfontconfig.h"
@@ -33,10 +34,8 @@ private Q_SLOTS:
 
     void theEnvironmentOfAQtInstallationIsTakenAway_data()
     {
-        QTest::addColumn<QByteArray>("name");
-        QTest::addColumn<QByteArray>("value");
-        QTest::addColumn<QByteArray>("override");
-        QTest::addColumn<QByteArray>("left");
+        const auto row =
+            velmtest::columns<QByteArray, QByteArray, QByteArray, QByteArray>("name", "value", "override", "left");
         for (const char* name :
              {"QT_PLUGIN_PATH", "QT_QPA_PLATFORM_PLUGIN_PATH", "QT_QUICK_CONTROLS_CONF", "QT_QUICK_CONTROLS_STYLE"}) {
             QTest::addRow("%s is emptied", name) << QByteArray(name) << QByteArray("x") << QByteArray() << QByteArray();
@@ -47,16 +46,12 @@ private Q_SLOTS:
             QTest::addRow("%s stays unset", name) << QByteArray(name) << QByteArray() << QByteArray() << QByteArray();
         }
         const QByteArray platform("QT_QPA_PLATFORM");
-        QTest::newRow("the platform xcb stays") << platform << QByteArray("xcb") << QByteArray() << QByteArray("xcb");
-        QTest::newRow("another platform is emptied")
-            << platform << QByteArray("wayland") << QByteArray() << QByteArray();
-        QTest::newRow("xcb with an option is another platform")
-            << platform << QByteArray("xcb:x") << QByteArray() << QByteArray();
-        QTest::newRow("an override of the platform wins over xcb")
-            << platform << QByteArray("xcb") << QByteArray("offscreen") << QByteArray("offscreen");
-        QTest::newRow("an override alone sets the platform")
-            << platform << QByteArray() << QByteArray("offscreen") << QByteArray("offscreen");
-        QTest::newRow("the platform stays unset") << platform << QByteArray() << QByteArray() << QByteArray();
+        row("the platform xcb stays", platform, "xcb", QByteArray(), "xcb");
+        row("another platform is emptied", platform, "wayland", QByteArray(), QByteArray());
+        row("xcb with an option is another platform", platform, "xcb:x", QByteArray(), QByteArray());
+        row("an override of the platform wins over xcb", platform, "xcb", "offscreen", "offscreen");
+        row("an override alone sets the platform", platform, QByteArray(), "offscreen", "offscreen");
+        row("the platform stays unset", platform, QByteArray(), QByteArray(), QByteArray());
     }
     void theEnvironmentOfAQtInstallationIsTakenAway()
     {
@@ -91,18 +86,10 @@ private Q_SLOTS:
 
     void aPageIsNamedByItsPathOrByItsModule_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QString>("module");
-        QTest::addColumn<QString>("url");
-        QTest::newRow("a file below the root") << "page.qml"
-                                               << "Tandolin.UI"
-                                               << "qrc:/qt/qml/page.qml";
-        QTest::newRow("any other file lies in its module") << "a.qml"
-                                                           << "Tandolin.UI"
-                                                           << "qrc:/qt/qml/Tandolin/UI/a.qml";
-        QTest::newRow("a folder below the module") << "parts/a.qml"
-                                                   << "One.Two.Three"
-                                                   << "qrc:/qt/qml/One/Two/Three/parts/a.qml";
+        const auto row = velmtest::columns<QString, QString, QString>("file", "module", "url");
+        row("a file below the root", "page.qml", "Tandolin.UI", "qrc:/qt/qml/page.qml");
+        row("any other file lies in its module", "a.qml", "Tandolin.UI", "qrc:/qt/qml/Tandolin/UI/a.qml");
+        row("a folder below the module", "parts/a.qml", "One.Two.Three", "qrc:/qt/qml/One/Two/Three/parts/a.qml");
     }
     void aPageIsNamedByItsPathOrByItsModule()
     {

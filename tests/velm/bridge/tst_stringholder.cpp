@@ -2,6 +2,7 @@
 #include "velm/bridge/strings.h"
 
 #include "support/onewordcatalogue.h"
+#include "support/table.h"
 
 #include <QTest>
 
@@ -49,9 +50,9 @@ private Q_SLOTS:
 
     void comparisonIgnoresCaseInEitherForm_data()
     {
-        QTest::addColumn<bool>("fromWx");
-        QTest::newRow("the wx form is compared where there is one") << true;
-        QTest::newRow("otherwise the Qt form is") << false;
+        const auto row = velmtest::columns<bool>("fromWx");
+        row("the wx form is compared where there is one", true);
+        row("otherwise the Qt form is", false);
     }
     void comparisonIgnoresCaseInEitherForm()
     {

@@ -1,6 +1,7 @@
 #include "velm/dialogs/basedialogcontroller.h"
 
 #include "support/signallog.h"
+#include "support/table.h"
 #include "velm/dialogs/basepopupcontroller.h"
 
 #include <QTest>
@@ -34,16 +35,13 @@ class TestBaseDialogController : public QObject
 private Q_SLOTS:
     void aDialogAsksBeforeItEnds_data()
     {
-        QTest::addColumn<int>("code");
-        QTest::addColumn<bool>("answer");
-        QTest::addColumn<QStringList>("asked");
-        QTest::addColumn<bool>("mayEnd");
-        QTest::newRow("OK may end") << 5100 << true << QStringList{"ok"} << true;
-        QTest::newRow("OK is refused") << 5100 << false << QStringList{"ok"} << false;
-        QTest::newRow("Cancel may end") << 5101 << true << QStringList{"cancel"} << true;
-        QTest::newRow("Cancel is refused") << 5101 << false << QStringList{"cancel"} << false;
-        QTest::newRow("another button ends unasked") << 5103 << false << QStringList() << true;
-        QTest::newRow("zero ends unasked") << 0 << false << QStringList() << true;
+        const auto row = velmtest::columns<int, bool, QStringList, bool>("code", "answer", "asked", "mayEnd");
+        row("OK may end", 5100, true, {"ok"}, true);
+        row("OK is refused", 5100, false, {"ok"}, false);
+        row("Cancel may end", 5101, true, {"cancel"}, true);
+        row("Cancel is refused", 5101, false, {"cancel"}, false);
+        row("another button ends unasked", 5103, false, QStringList(), true);
+        row("zero ends unasked", 0, false, QStringList(), true);
     }
     void aDialogAsksBeforeItEnds()
     {

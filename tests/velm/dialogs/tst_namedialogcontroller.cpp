@@ -3,6 +3,7 @@
 #include "support/fakehost.h"
 #include "support/scopes.h"
 #include "support/signallog.h"
+#include "support/table.h"
 #include "velm/dialogs/addrenamedialogcontroller.h"
 
 #include <QMetaProperty>
@@ -56,9 +57,9 @@ private Q_SLOTS:
 
     void anythingButOkGivesNoName_data()
     {
-        QTest::addColumn<int>("code");
-        QTest::newRow("Cancel") << 5101;
-        QTest::newRow("another end code") << 5103;
+        const auto row = velmtest::columns<int>("code");
+        row("Cancel", 5101);
+        row("another end code", 5103);
     }
     void anythingButOkGivesNoName()
     {

@@ -1,5 +1,7 @@
 #include "velm/dialogs/tooltipposition.h"
 
+#include "support/table.h"
+
 #include <QTest>
 
 class TestTooltipPosition : public QObject
@@ -8,14 +10,13 @@ class TestTooltipPosition : public QObject
 private Q_SLOTS:
     void aTipFlipsAtTheEdges_data()
     {
-        QTest::addColumn<QPoint>("cursor");
-        QTest::addColumn<QPoint>("expected");
-        QTest::newRow("it fits") << QPoint(500, 500) << QPoint(510, 520);
-        QTest::newRow("both flip") << QPoint(950, 990) << QPoint(840, 920);
-        QTest::newRow("exactly on both edges") << QPoint(890, 930) << QPoint(900, 950);
-        QTest::newRow("one beyond the right edge") << QPoint(891, 930) << QPoint(781, 950);
-        QTest::newRow("one beyond the bottom edge") << QPoint(890, 931) << QPoint(900, 861);
-        QTest::newRow("left and top aren't looked at") << QPoint(-900, -900) << QPoint(-890, -880);
+        const auto row = velmtest::columns<QPoint, QPoint>("cursor", "expected");
+        row("it fits", QPoint(500, 500), QPoint(510, 520));
+        row("both flip", QPoint(950, 990), QPoint(840, 920));
+        row("exactly on both edges", QPoint(890, 930), QPoint(900, 950));
+        row("one beyond the right edge", QPoint(891, 930), QPoint(781, 950));
+        row("one beyond the bottom edge", QPoint(890, 931), QPoint(900, 861));
+        row("left and top aren't looked at", QPoint(-900, -900), QPoint(-890, -880));
     }
     void aTipFlipsAtTheEdges()
     {

@@ -1,6 +1,7 @@
 #include "velm/drawingprops/colorcollection.h"
 
 #include "od/oderror.h"
+#include "support/table.h"
 
 #include <QTest>
 
@@ -36,23 +37,21 @@ private Q_SLOTS:
 
     void aColorIsTakenUpWhereTheFlagsAllowIt_data()
     {
-        QTest::addColumn<OdCmColor>("color");
-        QTest::addColumn<int>("flags");
-        QTest::addColumn<std::optional<int>>("index");
+        const auto row = velmtest::columns<OdCmColor, int, std::optional<int>>("color", "flags", "index");
         const std::optional<int> refused;
         const auto at = [](int index) { return std::optional<int>(index); };
-        QTest::newRow("by block needs its flag") << OdCmColor(OdCmColor::kByBlock) << ~2 << refused;
-        QTest::newRow("by block with its flag") << OdCmColor(OdCmColor::kByBlock) << 2 << at(1);
-        QTest::newRow("by layer needs one of three flags") << OdCmColor(OdCmColor::kByLayer) << 1 + 8 << refused;
-        QTest::newRow("by layer with the rows") << OdCmColor(OdCmColor::kByLayer) << 2 << at(0);
-        QTest::newRow("by layer as black") << OdCmColor(OdCmColor::kByLayer) << 4 << at(0);
-        QTest::newRow("by layer in white mode") << OdCmColor(OdCmColor::kByLayer) << 32 << at(0);
-        QTest::newRow("a true colour needs its flag") << OdCmColor::fromRGB(1, 2, 3) << ~1 << refused;
-        QTest::newRow("a true colour with its flag") << OdCmColor::fromRGB(1, 2, 3) << 1 << at(10);
-        QTest::newRow("a packed value of 0 is refused whatever the flags") << OdCmColor(0u) << ~0 << refused;
-        QTest::newRow("none needs its flag") << OdCmColor(OdCmColor::kNone) << ~8 << refused;
-        QTest::newRow("none with its flag") << OdCmColor(OdCmColor::kNone) << 8 << at(2);
-        QTest::newRow("an index needs nothing") << OdCmColor::fromIndex(3) << 0 << at(5);
+        row("by block needs its flag", OdCmColor(OdCmColor::kByBlock), ~2, refused);
+        row("by block with its flag", OdCmColor(OdCmColor::kByBlock), 2, at(1));
+        row("by layer needs one of three flags", OdCmColor(OdCmColor::kByLayer), 1 + 8, refused);
+        row("by layer with the rows", OdCmColor(OdCmColor::kByLayer), 2, at(0));
+        row("by layer as black", OdCmColor(OdCmColor::kByLayer), 4, at(0));
+        row("by layer in white mode", OdCmColor(OdCmColor::kByLayer), 32, at(0));
+        row("a true colour needs its flag", OdCmColor::fromRGB(1, 2, 3), ~1, refused);
+        row("a true colour with its flag", OdCmColor::fromRGB(1, 2, 3), 1, at(10));
+        row("a packed value of 0 is refused whatever the flags", OdCmColor(0u), ~0, refused);
+        row("none needs its flag", OdCmColor(OdCmColor::kNone), ~8, refused);
+        row("none with its flag", OdCmColor(OdCmColor::kNone), 8, at(2));
+        row("an index needs nothing", OdCmColor::fromIndex(3), 0, at(5));
     }
     void aColorIsTakenUpWhereTheFlagsAllowIt()
     {
@@ -76,14 +75,12 @@ private Q_SLOTS:
 
     void theFlagsOfTheColorDialog_data()
     {
-        QTest::addColumn<int>("flags");
-        QTest::addColumn<bool>("varies");
-        QTest::addColumn<int>("dialog");
-        QTest::newRow("a bare combo has no true colours") << 0 << false << 8;
-        QTest::newRow("by layer and by block") << 3 << false << 1;
-        QTest::newRow("black by layer wins over them") << 7 << false << 2;
-        QTest::newRow("white mode wins over them") << 35 << false << 2;
-        QTest::newRow("none and varies") << 9 << true << 64 + 16;
+        const auto row = velmtest::columns<int, bool, int>("flags", "varies", "dialog");
+        row("a bare combo has no true colours", 0, false, 8);
+        row("by layer and by block", 3, false, 1);
+        row("black by layer wins over them", 7, false, 2);
+        row("white mode wins over them", 35, false, 2);
+        row("none and varies", 9, true, 64 + 16);
     }
     void theFlagsOfTheColorDialog()
     {

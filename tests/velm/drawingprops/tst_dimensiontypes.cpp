@@ -3,6 +3,7 @@
 
 #include "od/oddbdatabase.h"
 #include "od/oddbdimension.h"
+#include "support/table.h"
 #include "support/vtableslots.h"
 
 #include <QTest>
@@ -67,32 +68,19 @@ private Q_SLOTS:
 
     void aNameTellsTheType_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("type");
-        QTest::newRow("a record name") << "Standard$2"
-                                       << "2 Angular 3";
-        QTest::newRow("a display name without regard to case") << "Standard: angular"
-                                                               << "2 Angular 3";
-        QTest::newRow("blanks left of the type don't count") << "Standard:  \tRadius"
-                                                             << "4 Radius 7";
-        QTest::newRow("blanks right of it do") << "Standard: Radius "
-                                               << "-";
-        QTest::newRow("only what follows the last sign counts") << "A: Linear$2: Leader"
-                                                                << "7 Leader 7";
-        QTest::newRow("a colon hides a dollar sign") << "A: B$2"
-                                                     << "-";
-        QTest::newRow("neither sign") << "Standard"
-                                      << "-";
-        QTest::newRow("no number") << "Standard$x"
-                                   << "-";
-        QTest::newRow("nothing behind the sign") << "Standard$"
-                                                 << "-";
-        QTest::newRow("something behind the number") << "Standard$2x"
-                                                     << "-";
-        QTest::newRow("a number of no type") << "Standard$5"
-                                             << "-";
-        QTest::newRow("a number that is one only when cut to 32 bits") << "Standard$4294967298"
-                                                                       << "-";
+        const auto row = velmtest::columns<QString, QString>("name", "type");
+        row("a record name", "Standard$2", "2 Angular 3");
+        row("a display name without regard to case", "Standard: angular", "2 Angular 3");
+        row("blanks left of the type don't count", "Standard:  \tRadius", "4 Radius 7");
+        row("blanks right of it do", "Standard: Radius ", "-");
+        row("only what follows the last sign counts", "A: Linear$2: Leader", "7 Leader 7");
+        row("a colon hides a dollar sign", "A: B$2", "-");
+        row("neither sign", "Standard", "-");
+        row("no number", "Standard$x", "-");
+        row("nothing behind the sign", "Standard$", "-");
+        row("something behind the number", "Standard$2x", "-");
+        row("a number of no type", "Standard$5", "-");
+        row("a number that is one only when cut to 32 bits", "Standard$4294967298", "-");
     }
     void aNameTellsTheType()
     {

@@ -3,6 +3,7 @@
 #include "support/members.h"
 #include "support/rowmirror.h"
 #include "support/signallog.h"
+#include "support/table.h"
 
 #include <QTest>
 
@@ -189,23 +190,17 @@ private Q_SLOTS:
 
     void theLoadRowOpensTheDialog_data()
     {
-        QTest::addColumn<QStringList>("loaded");
-        QTest::addColumn<bool>("accepted");
-        QTest::addColumn<QString>("rows");
-        QTest::addColumn<QString>("log");
-        QTest::newRow("cancelled, it goes back with two pairs of signals")
-            << QStringList() << false << "byblock bylayer continuous* Load..." << chosen + ' ' + chosen;
-        QTest::newRow("one that was loaded becomes current")
-            << QStringList("DOT") << true << "byblock bylayer continuous dot* Load..."
-            << chosen + ' ' + resetWithRow + ' ' + chosen;
-        QTest::newRow("after several it goes back")
-            << QStringList{"DOT", "DASH"} << true << "byblock bylayer continuous* dot dash Load..."
-            << chosen + ' ' + resetWithRow + ' ' + chosen;
-        QTest::newRow("after none it goes back") << QStringList() << true << "byblock bylayer continuous* Load..."
-                                                 << chosen + ' ' + resetWithRow + ' ' + chosen;
-        QTest::newRow("one that has no row leaves the former")
-            << QStringList("") << true << "byblock bylayer continuous* Load..."
-            << chosen + ' ' + resetWithRow + ' ' + chosen;
+        const auto row = velmtest::columns<QStringList, bool, QString, QString>("loaded", "accepted", "rows", "log");
+        row("cancelled, it goes back with two pairs of signals", QStringList(), false,
+            "byblock bylayer continuous* Load...", chosen + ' ' + chosen);
+        row("one that was loaded becomes current", QStringList("DOT"), true, "byblock bylayer continuous dot* Load...",
+            chosen + ' ' + resetWithRow + ' ' + chosen);
+        row("after several it goes back", {"DOT", "DASH"}, true, "byblock bylayer continuous* dot dash Load...",
+            chosen + ' ' + resetWithRow + ' ' + chosen);
+        row("after none it goes back", QStringList(), true, "byblock bylayer continuous* Load...",
+            chosen + ' ' + resetWithRow + ' ' + chosen);
+        row("one that has no row leaves the former", QStringList(""), true, "byblock bylayer continuous* Load...",
+            chosen + ' ' + resetWithRow + ' ' + chosen);
     }
 
     void theLoadRowOpensTheDialog()

@@ -1,13 +1,14 @@
 #include "velm/filter/filtertagsconjunctionmodel.h"
 
 #include "fakeproperties.h"
+#include "namingformatter.h"
 
 #include "support/members.h"
 #include "support/rowmirror.h"
 #include "support/rowtext.h"
 #include "support/signallog.h"
+#include "support/table.h"
 #include "velm/filter/examplefilterproperties.h"
-#include "velm/filter/filtertagformatter.h"
 
 #include <QTest>
 
@@ -15,6 +16,7 @@
 
 using namespace velm;
 using velmtest::FakeProperties;
+using velmtest::NamingFormatter;
 using velmtest::SignalLog;
 
 namespace {
@@ -48,30 +50,6 @@ QString text(const FilterTagsConjunctionModel& model, std::size_t row = 0)
     const FilterTagData& tag = model.getTags()[row];
     return QString("%1 %2 %3").arg(tag.propertyIndex).arg(tag.operation).arg(velmtest::typed(tag.value));
 }
-
-/// Tells which of its operations was asked, about which property and whether with an own list of operators.
-class NamingFormatter : public FilterTagFormatter
-{
-public:
-    QString getPropertyName(const FilterTagData& tag, const AbstractFilterPropertiesModel&) const override
-    {
-        return QString("name %1").arg(tag.propertyIndex);
-    }
-    QString formatPropertyLabelTooltip(const FilterTagData& tag, const AbstractFilterPropertiesModel&) const override
-    {
-        return QString("label %1").arg(tag.propertyIndex);
-    }
-    QString formatTag(const FilterTagData& tag, const AbstractFilterPropertiesModel&,
-                      const FilterOperatorsModel& operators) const override
-    {
-        return QString("tag %1 %2").arg(tag.propertyIndex).arg(operators.rowCount());
-    }
-    QString formatTagToolTip(const FilterTagData& tag, const AbstractFilterPropertiesModel&,
-                             const FilterOperatorsModel& operators) const override
-    {
-        return QString("tip %1 %2").arg(tag.propertyIndex).arg(operators.rowCount());
-    }
-};
 } // namespace
 
 class TestFilterConjunction : public QObject
@@ -164,14 +142,7 @@ private Q_SLOTS:
 
     void anEditFitsOperatorAndValueToTheProperty_data()
     {
-        QTest::addColumn<int>("property");
-        QTest::addColumn<int>("operation");
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<QString>("expected");
-        const auto row = [](const char* name, int property, int operation, const QVariant& value,
-                            const char* expected) {
-            QTest::newRow(name) << property << operation << value << QString(expected);
-        };
+        const auto row = velmtest::columns<int, int, QVariant, QString>("property", "operation", "value", "expected");
         row("a number as it is", Real, 9, 1.5, "2 9 double 1.5");
         row("a text becomes a number", Real, 2, "12.5", "2 2 double 12.5");
         row("a text that is no number becomes the default", Real, 2, "twelve", "2 2 double 0");

@@ -2,6 +2,7 @@
 
 #include "support/members.h"
 #include "support/signallog.h"
+#include "support/table.h"
 #include "velm/filter/examplefilterproperties.h"
 #include "velm/filter/loadfiltercontroller.h"
 
@@ -87,10 +88,10 @@ private Q_SLOTS:
 
     void missingPropertiesAreAsked_data()
     {
-        QTest::addColumn<int>("answer");
-        QTest::newRow("the filter is loaded without them") << 4;
-        QTest::newRow("the loading is cancelled") << 16;
-        QTest::newRow("another answer cancels, too") << yes;
+        const auto row = velmtest::columns<int>("answer");
+        row("the filter is loaded without them", 4);
+        row("the loading is cancelled", 16);
+        row("another answer cancels, too", yes);
     }
     void missingPropertiesAreAsked()
     {
@@ -195,16 +196,12 @@ private Q_SLOTS:
 
     void withoutAPartNothingHappens_data()
     {
-        QTest::addColumn<bool>("hasTags");
-        QTest::addColumn<bool>("hasProperties");
-        QTest::addColumn<bool>("hasFactory");
-        QTest::addColumn<bool>("hasManager");
-        QTest::addColumn<QString>("log");
-        QTest::addColumn<int>("signalCount");
-        QTest::newRow("no tags") << false << true << true << true << "1 rename a b, 1 duplicate a a, 1 remove a" << 1;
-        QTest::newRow("no properties") << true << false << true << true << "" << 0;
-        QTest::newRow("no factory of stores") << true << true << false << true << "" << 0;
-        QTest::newRow("no manager of factories") << true << true << true << false << "" << 0;
+        const auto row = velmtest::columns<bool, bool, bool, bool, QString, int>(
+            "hasTags", "hasProperties", "hasFactory", "hasManager", "log", "signalCount");
+        row("no tags", false, true, true, true, "1 rename a b, 1 duplicate a a, 1 remove a", 1);
+        row("no properties", true, false, true, true, "", 0);
+        row("no factory of stores", true, true, false, true, "", 0);
+        row("no manager of factories", true, true, true, false, "", 0);
     }
     void withoutAPartNothingHappens()
     {

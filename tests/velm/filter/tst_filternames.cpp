@@ -3,6 +3,7 @@
 #include "support/fakehost.h"
 #include "support/onewordcatalogue.h"
 #include "support/scopes.h"
+#include "support/table.h"
 #include "ut/names.h"
 #include "velm/bridge/conversions.h"
 
@@ -41,29 +42,24 @@ private Q_SLOTS:
 
     void theFirstThingThatIsWrongIsSaid_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<bool>("mayOverwrite");
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<QString>("message");
-        QTest::addColumn<bool>("valid");
-        const auto add = [](const char* row, const QString& name, bool mayOverwrite, int answer, const QString& message,
-                            bool valid) { QTest::newRow(row) << name << mayOverwrite << answer << message << valid; };
-        add("a new name is taken silently", "c", false, 0, "", true);
-        add("a new name is taken silently where overwriting is allowed", "c", true, 0, "", true);
-        add("a part of a name is a new name", "wal", false, 0, "", true);
-        add("no name is refused", "", false, 4, emptyText, false);
-        add("no name is refused even if one is saved", "", true, 4, emptyText, false);
-        add("a blank is a name", " ", false, 0, "", true);
-        add("a forbidden character at the end is refused", "c`", false, 4, forbiddenText, false);
-        add("a forbidden character is refused before the name is compared", "a|b", true, 4, forbiddenText, false);
-        add("characters beyond the basic plane are allowed", QString::fromUtf8("\U0001F600\u4e2d%s"), false, 0, "",
+        const auto row =
+            velmtest::columns<QString, bool, int, QString, bool>("name", "mayOverwrite", "answer", "message", "valid");
+        row("a new name is taken silently", "c", false, 0, "", true);
+        row("a new name is taken silently where overwriting is allowed", "c", true, 0, "", true);
+        row("a part of a name is a new name", "wal", false, 0, "", true);
+        row("no name is refused", "", false, 4, emptyText, false);
+        row("no name is refused even if one is saved", "", true, 4, emptyText, false);
+        row("a blank is a name", " ", false, 0, "", true);
+        row("a forbidden character at the end is refused", "c`", false, 4, forbiddenText, false);
+        row("a forbidden character is refused before the name is compared", "a|b", true, 4, forbiddenText, false);
+        row("characters beyond the basic plane are allowed", QString::fromUtf8("\U0001F600\u4e2d%s"), false, 0, "",
             true);
-        add("a saved name is overwritten after a yes", "wall", true, 2, overwriteText, true);
-        add("a saved name isn't overwritten after a no", "wall", true, 8, overwriteText, false);
-        add("a saved name isn't overwritten when the box is closed", "wall", true, 16, overwriteText, false);
-        add("a saved name in other letters counts as saved", "WALL", true, 2, overwriteText, true);
-        add("a saved name is refused where overwriting isn't allowed", "wall", false, 4, duplicateText, false);
-        add("a saved name in other letters is refused", "wÄLL", false, 4, duplicateText, false);
+        row("a saved name is overwritten after a yes", "wall", true, 2, overwriteText, true);
+        row("a saved name isn't overwritten after a no", "wall", true, 8, overwriteText, false);
+        row("a saved name isn't overwritten when the box is closed", "wall", true, 16, overwriteText, false);
+        row("a saved name in other letters counts as saved", "WALL", true, 2, overwriteText, true);
+        row("a saved name is refused where overwriting isn't allowed", "wall", false, 4, duplicateText, false);
+        row("a saved name in other letters is refused", "wÄLL", false, 4, duplicateText, false);
     }
     void theFirstThingThatIsWrongIsSaid()
     {

@@ -5,6 +5,7 @@
 #include "support/rowmirror.h"
 #include "support/rowtext.h"
 #include "support/signallog.h"
+#include "support/table.h"
 
 #include <QMetaEnum>
 #include <QTest>
@@ -122,20 +123,19 @@ private Q_SLOTS:
 
     void aCategoryListsItsOperators_data()
     {
-        QTest::addColumn<int>("mask");
-        QTest::addColumn<QString>("operators");
+        const auto row = velmtest::columns<int, QString>("mask", "operators");
         const QString all = "0 1 2 3 4 5 6 7 8 9 10 11";
-        QTest::newRow("a text can't match wildcards") << 1 << "0 1 4 5";
-        QTest::newRow("a number is compared") << 2 << "2 3 8 9 10 11";
-        QTest::newRow("a choice is or is not") << 4 << "0 1";
-        QTest::newRow("several texts can match wildcards") << 8 << "0 1 4 5 6 7";
-        QTest::newRow("all bits list all") << 15 << all;
-        QTest::newRow("no bit lists all, too") << 0 << all;
-        QTest::newRow("two bits list what has both") << 5 << "0 1";
-        QTest::newRow("two kinds of text list what has both") << 9 << "0 1 4 5";
-        QTest::newRow("bits that share nothing list nothing") << 3 << "";
-        QTest::newRow("a bit that nobody has lists nothing") << 16 << "";
-        QTest::newRow("a negative mask lists nothing") << -1 << "";
+        row("a text can't match wildcards", 1, "0 1 4 5");
+        row("a number is compared", 2, "2 3 8 9 10 11");
+        row("a choice is or is not", 4, "0 1");
+        row("several texts can match wildcards", 8, "0 1 4 5 6 7");
+        row("all bits list all", 15, all);
+        row("no bit lists all, too", 0, all);
+        row("two bits list what has both", 5, "0 1");
+        row("two kinds of text list what has both", 9, "0 1 4 5");
+        row("bits that share nothing list nothing", 3, "");
+        row("a bit that nobody has lists nothing", 16, "");
+        row("a negative mask lists nothing", -1, "");
     }
     void aCategoryListsItsOperators()
     {

@@ -5,6 +5,7 @@
 #include "support/members.h"
 #include "support/rowtext.h"
 #include "support/signallog.h"
+#include "support/table.h"
 #include "velm/filter/examplefilterproperties.h"
 #include "velm/filter/pinnedpropertiesmodel.h"
 #include "velm/table/sortfilterselectmodel.h"
@@ -136,38 +137,26 @@ private Q_SLOTS:
 
     void aSearchKeepsWhatHoldsEveryTerm_data()
     {
-        QTest::addColumn<QString>("search");
-        QTest::addColumn<QString>("shown");
+        const auto row = velmtest::columns<QString, QString>("search", "shown");
         const QString all = "General(name name (multiple) type) Misc.(color lineweight transparency) "
                             "Several(Levels(Deep(boolean) integer [item(s)] parameter [inch]))";
-        QTest::newRow("nothing") << "" << all;
-        QTest::newRow("two blanks") << "  " << all;
-        QTest::newRow("a tab and a line feed") << "\t\n" << all;
-        QTest::newRow("path and name together") << "levels parameter"
-                                                << "Several(Levels(parameter [inch]))";
-        QTest::newRow("in any order, whatever the blanks") << " PARAMETER\t levels "
-                                                           << "Several(Levels(parameter [inch]))";
-        QTest::newRow("the unit") << "parameter inch"
-                                  << "Several(Levels(parameter [inch]))";
-        QTest::newRow("a group's name alone shows all that is in it") << "misc"
-                                                                      << "Misc.(color lineweight transparency)";
-        QTest::newRow("a deep group") << "deep"
-                                      << "Several(Levels(Deep(boolean)))";
-        QTest::newRow("a part of a word") << "olo"
-                                          << "Misc.(color)";
-        QTest::newRow("in several groups") << "a e n"
-                                           << "General(name name (multiple) type) Misc.(transparency) "
-                                              "Several(Levels(Deep(boolean) integer [item(s)] parameter [inch]))";
-        QTest::newRow("terms of two neighbours") << "color lineweight"
-                                                 << "";
-        QTest::newRow("a term across a name's end") << "genername"
-                                                    << "";
-        QTest::newRow("signs of patterns are letters") << "(multiple"
-                                                       << "General(name (multiple))";
-        QTest::newRow("a sign that fits nothing") << ".*"
-                                                  << "";
-        QTest::newRow("a term twice") << "deep deep"
-                                      << "Several(Levels(Deep(boolean)))";
+        row("nothing", "", all);
+        row("two blanks", "  ", all);
+        row("a tab and a line feed", "\t\n", all);
+        row("path and name together", "levels parameter", "Several(Levels(parameter [inch]))");
+        row("in any order, whatever the blanks", " PARAMETER\t levels ", "Several(Levels(parameter [inch]))");
+        row("the unit", "parameter inch", "Several(Levels(parameter [inch]))");
+        row("a group's name alone shows all that is in it", "misc", "Misc.(color lineweight transparency)");
+        row("a deep group", "deep", "Several(Levels(Deep(boolean)))");
+        row("a part of a word", "olo", "Misc.(color)");
+        row("in several groups", "a e n",
+            "General(name name (multiple) type) Misc.(transparency) "
+            "Several(Levels(Deep(boolean) integer [item(s)] parameter [inch]))");
+        row("terms of two neighbours", "color lineweight", "");
+        row("a term across a name's end", "genername", "");
+        row("signs of patterns are letters", "(multiple", "General(name (multiple))");
+        row("a sign that fits nothing", ".*", "");
+        row("a term twice", "deep deep", "Several(Levels(Deep(boolean)))");
     }
     void aSearchKeepsWhatHoldsEveryTerm()
     {

@@ -5,6 +5,7 @@
 
 #include "support/members.h"
 #include "support/rowmirror.h"
+#include "support/table.h"
 #include "support/vtableslots.h"
 #include "velm/drawingprops/icolormodel.h"
 #include "velm/drawingprops/ilineweightmodel.h"
@@ -118,18 +119,19 @@ private Q_SLOTS:
 
     void theKindTellsTheBeginningOfATag_data()
     {
-        QTest::addColumn<QString>("expected"); // category, operator, value
-        QTest::newRow("string") << "1 0 QString ";
-        QTest::newRow("stringMultiple") << "8 0 QStringList first";
-        QTest::newRow("real") << "2 2 double 0";
-        QTest::newRow("integer") << "2 2 int 0";
-        QTest::newRow("enum") << "4 0 int 0";
-        QTest::newRow("enumMultiple") << "4 0 QVariantList 0";
-        QTest::newRow("boolean") << "4 0 bool false";
-        QTest::newRow("lineWeight") << "4 0 int 0";
-        QTest::newRow("color") << "4 0 QVariantList 0";
-        QTest::newRow("transparency") << "2 2 int 0";
-        QTest::newRow("String") << "0 0 nothing";
+        // Category, operator and value.
+        const auto row = velmtest::columns<QString>("expected");
+        row("string", "1 0 QString ");
+        row("stringMultiple", "8 0 QStringList first");
+        row("real", "2 2 double 0");
+        row("integer", "2 2 int 0");
+        row("enum", "4 0 int 0");
+        row("enumMultiple", "4 0 QVariantList 0");
+        row("boolean", "4 0 bool false");
+        row("lineWeight", "4 0 int 0");
+        row("color", "4 0 QVariantList 0");
+        row("transparency", "2 2 int 0");
+        row("String", "0 0 nothing");
     }
     void theKindTellsTheBeginningOfATag()
     {

@@ -1,35 +1,23 @@
 #include "velm/filter/filtertagsmodel.h"
 
-#include "fakeproperties.h"
+#include "filtertags.h"
+#include "namingformatter.h"
 
-#include "support/changescript.h"
 #include "support/members.h"
-#include "support/rowmirror.h"
-#include "support/signallog.h"
-#include "velm/filter/filtertagformatter.h"
-#include "velm/filter/filtertagsconjunctionmodel.h"
 
 #include <QJSEngine>
 #include <QPointer>
-#include <QSignalSpy>
 #include <QTest>
 
 #include <climits>
 
 using namespace velm;
-using velmtest::FakeProperties;
-using velmtest::SignalLog;
+using velmtest::filterOf;
+using Fixture = velmtest::TagsFixture;
+using velmtest::threeTexts;
 
 namespace {
 constexpr int badIndexes[] = {-1, -2, INT_MIN, INT_MAX};
-
-/// Three texts.
-const FakeProperties& properties()
-{
-    static const FakeProperties result = {
-        {"p", "string", {}, {}, {}, {}}, {"q", "string", {}, {}, {}, {}}, {"r", "string", {}, {}, {}, {}}};
-    return result;
-}
 
 /// The values alone, a bracket for each conjunction: "[a b] []".
 QString text(const FilterTagsModel& model)
@@ -43,36 +31,6 @@ QString text(const FilterTagsModel& model)
     }
     return conjunctions.join(' ');
 }
-
-/// Tags of the first property, from the form that text() gives.
-FilterData filterOf(const QString& form)
-{
-    FilterData result;
-    for (const QString& conjunction : form.split(']', Qt::SkipEmptyParts)) {
-        result.emplace_back();
-        for (const QString& value : QString(conjunction).remove('[').split(' ', Qt::SkipEmptyParts))
-            result.back().push_back({0, 0, value});
-    }
-    return result;
-}
-
-struct Fixture
-{
-    FilterTagsModel model{properties(), nullptr};
-    velmtest::RowMirror mirror{model};
-    SignalLog log{model};
-
-    explicit Fixture(const QString& form = "[]")
-    {
-        model.setFilter(filterOf(form));
-        log.take();
-    }
-
-    FilterTagsConjunctionModel* conjunction(int row) const
-    {
-        return model.index(row, 0).data(0).value<FilterTagsConjunctionModel*>();
-    }
-};
 } // namespace
 
 class TestFilterTags : public QObject
@@ -288,37 +246,16 @@ private Q_SLOTS:
 
     void everyConjunctionHasTheFormatter()
     {
-        struct : FilterTagFormatter
-        {
-            QString getPropertyName(const FilterTagData&, const AbstractFilterPropertiesModel&) const override
-            {
-                return "mine";
-            }
-            QString formatPropertyLabelTooltip(const FilterTagData&,
-                                               const AbstractFilterPropertiesModel&) const override
-            {
-                return {};
-            }
-            QString formatTag(const FilterTagData&, const AbstractFilterPropertiesModel&,
-                              const FilterOperatorsModel&) const override
-            {
-                return {};
-            }
-            QString formatTagToolTip(const FilterTagData&, const AbstractFilterPropertiesModel&,
-                                     const FilterOperatorsModel&) const override
-            {
-                return {};
-            }
-        } formatter;
-        FilterTagsModel model(properties(), &formatter);
+        const velmtest::NamingFormatter formatter;
+        FilterTagsModel model(threeTexts(), &formatter);
         const auto name = [&model](int conjunction) { return model.get(conjunction, 0)["propertyName"].toString(); };
         model.addTag(0, 0, 0, "a");
         model.duplicateConjunction(0);
         model.addConjunction();
         model.addTag(2, 0, 0, "b");
-        QCOMPARE(name(0) + name(1) + name(2), "mineminemine");
+        QCOMPARE(name(0) + name(1) + name(2), "name 0name 0name 0");
         model.setFilter(filterOf("[x]"));
-        QCOMPARE(name(0), "mine");
+        QCOMPARE(name(0), "name 0");
     }
 
     void badIndexesDoNothing()
@@ -363,126 +300,6 @@ private Q_SLOTS:
         f.model.removeConjunction(0);
         QCOMPARE(text(f.model), "[x] [y]");
         QVERIFY(f.mirror.isRight());
-    }
-
-    void randomEditsKeepToAPlainList()
-    {
-        Fixture f;
-        FilterData expected(1);
-        // What tells each conjunction's edits, since a copy in the middle is silent: how often it is connected.
-        std::vector<int> connections = {1};
-        int told = 0;
-        int expectedTold = 0;
-        QObject::connect(&f.model, &FilterTagsModel::filtersChanged, &f.model, [&told] { ++told; });
-
-        using Random = QRandomGenerator;
-        const auto row = [&](Random& random) { return random.bounded(-1, static_cast<int>(expected.size()) + 2); };
-        const auto isRow = [&](int i) { return i >= 0 && i < static_cast<int>(expected.size()); };
-        const auto at = [&](int i) -> std::vector<FilterTagData>& { return expected[static_cast<std::size_t>(i)]; };
-        const auto toldBy = [&](int i) { return connections[static_cast<std::size_t>(i)]; };
-        const auto value = [](Random& random) { return QVariant(QString::number(random.bounded(4))); };
-
-        velmtest::ChangeScript script(20);
-        script.add("addConjunction", [&](Random&) {
-            f.model.addConjunction();
-            expected.emplace_back();
-            connections.push_back(1);
-            ++expectedTold;
-        });
-        script.add("removeConjunction", [&](Random& random) {
-            const int i = row(random);
-            f.model.removeConjunction(i);
-            if (!isRow(i))
-                return;
-            if (expected.size() == 1) {
-                expectedTold += at(0).empty() ? 0 : toldBy(0) + 1;
-                at(0).clear();
-                return;
-            }
-            expected.erase(expected.begin() + i);
-            connections.erase(connections.begin() + i);
-            ++expectedTold;
-        });
-        script.add("duplicateConjunction", [&](Random& random) {
-            const int i = row(random);
-            if (expected.size() > 12)
-                return;
-            f.model.duplicateConjunction(i);
-            if (!isRow(i))
-                return;
-            expected.insert(expected.begin() + i + 1, std::vector<FilterTagData>(at(i)));
-            connections.insert(connections.begin() + i + 1, 0);
-            ++connections.back();
-            ++expectedTold;
-        });
-        const auto addTag = [&](Random& random) {
-            const int i = row(random);
-            const FilterTagData tag{random.bounded(-1, 4), random.bounded(-1, 13), value(random)};
-            f.model.addTag(i, tag.propertyIndex, tag.operation, tag.value);
-            if (!isRow(i) || tag.propertyIndex < 0 || tag.propertyIndex > 2)
-                return;
-            at(i).push_back(tag);
-            expectedTold += toldBy(i);
-        };
-        for (int weight = 0; weight < 3; ++weight)
-            script.add("addTag", addTag);
-        script.add("editTag", [&](Random& random) {
-            const int i = row(random);
-            const int tag = random.bounded(-1, 4);
-            FilterTagData edited{random.bounded(-1, 4), random.bounded(0, 2), value(random)};
-            f.model.editTag(i, tag, edited.propertyIndex, edited.operation, edited.value);
-            if (!isRow(i) || tag < 0 || tag >= static_cast<int>(at(i).size()) || edited.propertyIndex < 0 ||
-                edited.propertyIndex > 2)
-                return;
-            FilterTagData& present = at(i)[static_cast<std::size_t>(tag)];
-            expectedTold += present == edited ? 0 : toldBy(i);
-            present = edited;
-        });
-        script.add("removeTag", [&](Random& random) {
-            const int i = row(random);
-            const int tag = random.bounded(-1, 4);
-            f.model.removeTag(i, tag);
-            if (!isRow(i) || tag < 0 || tag >= static_cast<int>(at(i).size()))
-                return;
-            at(i).erase(at(i).begin() + tag);
-            expectedTold += toldBy(i);
-        });
-        script.add("removeTags", [&](Random& random) {
-            const int i = row(random);
-            f.model.removeTags(i);
-            if (!isRow(i) || at(i).empty())
-                return;
-            at(i).clear();
-            expectedTold += toldBy(i);
-        });
-        script.add("clear", [&](Random& random) {
-            if (random.bounded(5) > 0)
-                return;
-            f.model.clear();
-            expectedTold += at(0).empty() ? 0 : toldBy(0);
-            expected.resize(1);
-            connections.resize(1);
-            at(0).clear();
-        });
-        script.add("setFilter", [&](Random& random) {
-            FilterData filter(random.bounded(3u));
-            for (std::vector<FilterTagData>& tags : filter)
-                tags.push_back({random.bounded(-2, 3), 0, value(random)});
-            f.model.setFilter(filter);
-            const bool isBad =
-                std::any_of(filter.begin(), filter.end(), [](const auto& tags) { return tags[0].propertyIndex < -1; });
-            if (filter.empty())
-                filter.resize(1);
-            if (isBad || filter == expected)
-                return;
-            connections.assign(filter.size(), 1);
-            expected = std::move(filter);
-            ++expectedTold;
-        });
-        QVERIFY(script.run(3000, [&] {
-            return f.model.getFilter() == expected && told == expectedTold && f.mirror.isRight() &&
-                   f.model.rowCount() == static_cast<int>(expected.size());
-        }));
     }
 };
 

@@ -3,6 +3,7 @@
 #include "support/members.h"
 #include "support/rowtext.h"
 #include "support/signallog.h"
+#include "support/table.h"
 #include "velm/filter/filterlistmodel.h"
 #include "velm/filter/loadfiltercontroller.h"
 #include "velm/models/menumodel.h"
@@ -173,10 +174,10 @@ private Q_SLOTS:
 
     void removingAsksFirst_data()
     {
-        QTest::addColumn<int>("answer");
-        QTest::newRow("yes removes") << yes;
-        QTest::newRow("no keeps") << no;
-        QTest::newRow("a closed box keeps") << 16;
+        const auto row = velmtest::columns<int>("answer");
+        row("yes removes", yes);
+        row("no keeps", no);
+        row("a closed box keeps", 16);
     }
     void removingAsksFirst()
     {

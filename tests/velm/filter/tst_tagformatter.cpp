@@ -3,6 +3,7 @@
 #include "fakeproperties.h"
 #include "filterhost.h"
 
+#include "support/table.h"
 #include "support/vtableslots.h"
 #include "velm/drawingprops/icolormodel.h"
 #include "velm/filter/examplefilterproperties.h"
@@ -47,11 +48,7 @@ class TestTagFormatter : public QObject
 private Q_SLOTS:
     void aTagReads_data()
     {
-        QTest::addColumn<FilterTagData>("tag");
-        QTest::addColumn<QString>("expected");
-        const auto row = [](const char* name, const FilterTagData& tag, const char* expected) {
-            QTest::newRow(name) << tag << QString::fromUtf8(expected);
-        };
+        const auto row = velmtest::columns<FilterTagData, QString>("tag", "expected");
         row("one of several texts stands itself", {0, 4, QStringList{"A"}},
             "layer contains A | General/layer contains A");
         row("several texts are one word, and lines in the tooltip", {0, 0, QStringList{"A", "", "B"}},

@@ -1,5 +1,6 @@
 #include "velm/filter/valuetypes.h"
 
+#include "support/table.h"
 #include "velm/filter/componenturlwithsettings.h"
 #include "velm/filter/filtertagdata.h"
 
@@ -21,19 +22,17 @@ private Q_SLOTS:
 
     void eachKindHasItsKeyItsOperatorsAndItsEditor_data()
     {
-        QTest::addColumn<int>("number");
-        QTest::addColumn<int>("category");
-        QTest::addColumn<QString>("editor");
-        QTest::newRow("string") << 0 << 1 << "StringValue.qml";
-        QTest::newRow("stringMultiple") << 1 << 8 << "StringMultipleValue.qml";
-        QTest::newRow("real") << 2 << 2 << "RealValue.qml";
-        QTest::newRow("integer") << 3 << 2 << "IntegerValue.qml";
-        QTest::newRow("enum") << 4 << 4 << "EnumValue.qml";
-        QTest::newRow("enumMultiple") << 5 << 4 << "EnumMultipleValue.qml";
-        QTest::newRow("boolean") << 6 << 4 << "BooleanValue.qml";
-        QTest::newRow("lineWeight") << 7 << 4 << "LineWeightValue.qml";
-        QTest::newRow("color") << 8 << 4 << "ColorValue.qml";
-        QTest::newRow("transparency") << 9 << 2 << "TransparencyValue.qml";
+        const auto row = velmtest::columns<int, int, QString>("number", "category", "editor");
+        row("string", 0, 1, "StringValue.qml");
+        row("stringMultiple", 1, 8, "StringMultipleValue.qml");
+        row("real", 2, 2, "RealValue.qml");
+        row("integer", 3, 2, "IntegerValue.qml");
+        row("enum", 4, 4, "EnumValue.qml");
+        row("enumMultiple", 5, 4, "EnumMultipleValue.qml");
+        row("boolean", 6, 4, "BooleanValue.qml");
+        row("lineWeight", 7, 4, "LineWeightValue.qml");
+        row("color", 8, 4, "ColorValue.qml");
+        row("transparency", 9, 2, "TransparencyValue.qml");
     }
     void eachKindHasItsKeyItsOperatorsAndItsEditor()
     {

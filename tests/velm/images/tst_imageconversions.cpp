@@ -1,5 +1,6 @@
 #include "velm/images/imageconversions.h"
 
+#include "support/table.h"
 #include "workbench/wxtestmain.h"
 
 #include <QImage>
@@ -56,24 +57,20 @@ class TestImageConversions : public QObject
 private Q_SLOTS:
     void imagesBecomeTheHosts_data()
     {
-        QTest::addColumn<QImage>("image");
-        QTest::addColumn<QString>("expected");
+        const auto add = velmtest::columns<QImage, QString>("image", "expected");
         const QList<uint> half{0x80326480, 0x00806040, 0xff123456, 0x01010100};
         const QString restored = "8064c7ff 00000000 ff123456 01ffff00";
-        QTest::newRow("premultiplied colours are restored")
-            << row(QImage::Format_ARGB32_Premultiplied, half) << restored;
-        QTest::newRow("straight ones are taken for premultiplied") << row(QImage::Format_ARGB32, half) << restored;
-        QTest::newRow("without an alpha channel its byte doesn't count")
-            << row(QImage::Format_RGB32, {0x00102030, 0x80405060}) << "102030 405060";
-        QTest::newRow("24 bits") << row(QImage::Format_RGB888, {0xff102030, 0xff405060, 0xff708090})
-                                 << "102030 405060 708090";
-        QTest::newRow("a palette with alpha")
-            << row(QImage::Format_Indexed8, {1, 0, 2}, {0xff102030, 0x8000ff00, 0x00ffffff})
-            << "8000ff00 ff102030 00000000";
-        QTest::newRow("one bit, the palette's alpha dropped")
-            << row(QImage::Format_Mono, {0, 1, 1, 0, 1, 0, 0, 0, 1}, {0xff102030, 0xffc0ffee})
-            << "102030 c0ffee c0ffee 102030 c0ffee 102030 102030 102030 c0ffee";
-        QTest::newRow("nothing") << QImage() << "null";
+        add("premultiplied colours are restored", row(QImage::Format_ARGB32_Premultiplied, half), restored);
+        add("straight ones are taken for premultiplied", row(QImage::Format_ARGB32, half), restored);
+        add("without an alpha channel its byte doesn't count", row(QImage::Format_RGB32, {0x00102030, 0x80405060}),
+            "102030 405060");
+        add("24 bits", row(QImage::Format_RGB888, {0xff102030, 0xff405060, 0xff708090}), "102030 405060 708090");
+        add("a palette with alpha", row(QImage::Format_Indexed8, {1, 0, 2}, {0xff102030, 0x8000ff00, 0x00ffffff}),
+            "8000ff00 ff102030 00000000");
+        add("one bit, the palette's alpha dropped",
+            row(QImage::Format_Mono, {0, 1, 1, 0, 1, 0, 0, 0, 1}, {0xff102030, 0xffc0ffee}),
+            "102030 c0ffee c0ffee 102030 c0ffee 102030 102030 102030 c0ffee");
+        add("nothing", QImage(), "null");
     }
     void imagesBecomeTheHosts()
     {

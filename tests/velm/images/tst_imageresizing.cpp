@@ -1,5 +1,7 @@
 #include "velm/images/imageresizing.h"
 
+#include "support/table.h"
+
 #include <QTest>
 
 #include <limits>
@@ -44,33 +46,29 @@ class TestImageResizing : public QObject
 private Q_SLOTS:
     void anImageIsPlaced_data()
     {
-        QTest::addColumn<int>("mode");
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<QRect>("destination");
-        QTest::addColumn<double>("zoom");
-        QTest::addColumn<QString>("expected");
+        const auto row =
+            velmtest::columns<int, QSize, QRect, double, QString>("mode", "size", "destination", "zoom", "expected");
         const QRect square(10, 20, 100, 100);
         const QSize wide(100, 50);
         const QString whole = "0,0 99,49 | 10,20 109,119";
         constexpr double noNumber = std::numeric_limits<double>::quiet_NaN();
-        QTest::newRow("stretched") << 0 << wide << square << 0.0 << whole;
-        QTest::newRow("an unknown mode stretches") << 4 << wide << square << 0.0 << whole;
-        QTest::newRow("a wide one fitted") << 1 << wide << square << 0.0 << "0,0 99,49 | 10,45 109,94";
-        QTest::newRow("a tall one fitted") << 1 << QSize(50, 100) << square << 0.0 << "0,0 49,99 | 35,20 84,119";
-        QTest::newRow("what is cut off doesn't depend on the place")
-            << 1 << QSize(3, 2) << QRect(-5, -7, 10, 9) << 0.0 << "0,0 2,1 | -5,-6 4,-1";
-        QTest::newRow("a wide one filling") << 2 << wide << square << 0.0 << "25,0 74,49 | 10,20 109,119";
-        QTest::newRow("a tall one filling") << 2 << QSize(50, 100) << square << 0.0 << "0,25 49,74 | 10,20 109,119";
-        QTest::newRow("filling an odd height") << 2 << QSize(3, 2) << QRect(0, 0, 10, 9) << 0.0 << "0,0 1,1 | 0,0 9,8";
-        QTest::newRow("zoomed by 1") << 3 << wide << square << 1.0 << "0,0 99,49 | 10,45 109,94";
-        QTest::newRow("zoomed in") << 3 << wide << square << 0.5 << "25,0 74,49 | 10,20 109,119";
-        QTest::newRow("zoomed out") << 3 << wide << square << 2.0 << "0,0 99,49 | 35,57 84,81";
-        QTest::newRow("cropped in one direction alone")
-            << 3 << QSize(200, 10) << square << 1.0 << "50,0 149,9 | 10,65 109,74";
-        QTest::newRow("a zoom of 0 leaves no source") << 3 << wide << square << 0.0 << "50,25 49,24 | 10,20 109,119";
-        QTest::newRow("a huge zoom leaves no destination") << 3 << wide << square << 1e300 << "0,0 99,49 | 60,70 59,69";
-        QTest::newRow("a negative zoom") << 3 << wide << square << -1.0 << "100,75 -1,-26 | 110,95 9,44";
-        QTest::newRow("a zoom that is no number") << 3 << wide << square << noNumber << whole;
+        row("stretched", 0, wide, square, 0.0, whole);
+        row("an unknown mode stretches", 4, wide, square, 0.0, whole);
+        row("a wide one fitted", 1, wide, square, 0.0, "0,0 99,49 | 10,45 109,94");
+        row("a tall one fitted", 1, QSize(50, 100), square, 0.0, "0,0 49,99 | 35,20 84,119");
+        row("what is cut off doesn't depend on the place", 1, QSize(3, 2), QRect(-5, -7, 10, 9), 0.0,
+            "0,0 2,1 | -5,-6 4,-1");
+        row("a wide one filling", 2, wide, square, 0.0, "25,0 74,49 | 10,20 109,119");
+        row("a tall one filling", 2, QSize(50, 100), square, 0.0, "0,25 49,74 | 10,20 109,119");
+        row("filling an odd height", 2, QSize(3, 2), QRect(0, 0, 10, 9), 0.0, "0,0 1,1 | 0,0 9,8");
+        row("zoomed by 1", 3, wide, square, 1.0, "0,0 99,49 | 10,45 109,94");
+        row("zoomed in", 3, wide, square, 0.5, "25,0 74,49 | 10,20 109,119");
+        row("zoomed out", 3, wide, square, 2.0, "0,0 99,49 | 35,57 84,81");
+        row("cropped in one direction alone", 3, QSize(200, 10), square, 1.0, "50,0 149,9 | 10,65 109,74");
+        row("a zoom of 0 leaves no source", 3, wide, square, 0.0, "50,25 49,24 | 10,20 109,119");
+        row("a huge zoom leaves no destination", 3, wide, square, 1e300, "0,0 99,49 | 60,70 59,69");
+        row("a negative zoom", 3, wide, square, -1.0, "100,75 -1,-26 | 110,95 9,44");
+        row("a zoom that is no number", 3, wide, square, noNumber, whole);
         for (int mode = 0; mode < 4; ++mode) {
             QTest::addRow("no width in mode %d", mode) << mode << wide << QRect(10, 20, 0, 100) << 1.0 << "null";
             QTest::addRow("a negative height in mode %d", mode)

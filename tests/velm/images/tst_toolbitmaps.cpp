@@ -1,5 +1,6 @@
 #include "velm/images/toolbitmaps.h"
 
+#include "support/table.h"
 #include "workbench/wxtestmain.h"
 
 #include <QImage>
@@ -40,28 +41,23 @@ class TestToolBitmaps : public QObject
 private Q_SLOTS:
     void theNearestIconIsScaled_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("size");
-        QTest::addColumn<bool>("tryDefault");
-        QTest::addColumn<int>("theme");
-        QTest::addColumn<QString>("expected");
-        QTest::addColumn<QString>("message");
+        const auto row = velmtest::columns<QString, int, bool, int, QString, QString>("name", "size", "tryDefault",
+                                                                                      "theme", "expected", "message");
         const QString none;
-        QTest::newRow("the very size") << "testpen" << 16 << false << 0 << "16x16 #ff0000" << none;
-        QTest::newRow("the nearest power of two") << "testpen" << 28 << false << 0 << "28x28 #00ff00" << none;
-        QTest::newRow("below the smallest that exists") << "testpen" << 15 << false << 0 << "15x15 #ff0000" << none;
-        QTest::newRow("the light one") << "testpen" << 32 << false << 1 << "32x32 #0000ff" << none;
-        QTest::newRow("a near size goes before the theme") << "testpen" << 16 << false << 1 << "16x16 #ff0000" << none;
-        QTest::newRow("dark has the light one instead") << "testsun" << 20 << false << 0 << "20x20 #ffff00" << none;
-        QTest::newRow("no theme has the light one instead")
-            << "testsun" << 20 << false << -1 << "20x20 #ffff00" << none;
-        QTest::newRow("an unknown theme has dark alone") << "testsun" << 20 << false << 2 << "none" << exhausted;
-        QTest::newRow("a name with its ending") << "testpen.png" << 16 << false << 0 << "16x16 #ff0000" << none;
-        QTest::newRow("another ending belongs to the name") << "testpen.PNG" << 16 << false << 0 << "none" << exhausted;
-        QTest::newRow("an icon as wide as asked stays") << "testwide" << 16 << false << 0 << "16x8 #808080" << none;
-        QTest::newRow("the aspect stays") << "testwide" << 24 << false << 0 << "24x12 #808080" << none;
-        QTest::newRow("an unknown name") << "unknown" << 24 << false << 0 << "none" << exhausted;
-        QTest::newRow("after all sizes comes -1") << "testghost" << 24 << false << 0 << "24x24 #123456" << exhausted;
+        row("the very size", "testpen", 16, false, 0, "16x16 #ff0000", none);
+        row("the nearest power of two", "testpen", 28, false, 0, "28x28 #00ff00", none);
+        row("below the smallest that exists", "testpen", 15, false, 0, "15x15 #ff0000", none);
+        row("the light one", "testpen", 32, false, 1, "32x32 #0000ff", none);
+        row("a near size goes before the theme", "testpen", 16, false, 1, "16x16 #ff0000", none);
+        row("dark has the light one instead", "testsun", 20, false, 0, "20x20 #ffff00", none);
+        row("no theme has the light one instead", "testsun", 20, false, -1, "20x20 #ffff00", none);
+        row("an unknown theme has dark alone", "testsun", 20, false, 2, "none", exhausted);
+        row("a name with its ending", "testpen.png", 16, false, 0, "16x16 #ff0000", none);
+        row("another ending belongs to the name", "testpen.PNG", 16, false, 0, "none", exhausted);
+        row("an icon as wide as asked stays", "testwide", 16, false, 0, "16x8 #808080", none);
+        row("the aspect stays", "testwide", 24, false, 0, "24x12 #808080", none);
+        row("an unknown name", "unknown", 24, false, 0, "none", exhausted);
+        row("after all sizes comes -1", "testghost", 24, false, 0, "24x24 #123456", exhausted);
     }
     void theNearestIconIsScaled()
     {

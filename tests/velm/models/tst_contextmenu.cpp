@@ -5,6 +5,7 @@
 #include "od/oderror.h"
 #include "support/rowtext.h"
 #include "support/signallog.h"
+#include "support/table.h"
 
 #include <QAbstractItemModelTester>
 #include <QTest>
@@ -74,20 +75,13 @@ private Q_SLOTS:
 
     void anIconIsNamedAfterItsBitmap_data()
     {
-        QTest::addColumn<QString>("bitmap");
-        QTest::addColumn<QString>("file");
-        QTest::newRow("without its prefix and in lower case") << "BMP_16_Copy"
-                                                              << "copy.png";
-        QTest::newRow("another name") << "Paste"
-                                      << "paste.png";
-        QTest::newRow("none") << ""
-                              << "";
-        QTest::newRow("nothing but the prefix") << "BMP_16_"
-                                                << ".png";
-        QTest::newRow("a prefix in other letters is part of the name") << "bmp_16_Cut"
-                                                                       << "bmp_16_cut.png";
-        QTest::newRow("a prefix within the name") << "BMP_16_BMP_16_A"
-                                                  << "bmp_16_a.png";
+        const auto row = velmtest::columns<QString, QString>("bitmap", "file");
+        row("without its prefix and in lower case", "BMP_16_Copy", "copy.png");
+        row("another name", "Paste", "paste.png");
+        row("none", "", "");
+        row("nothing but the prefix", "BMP_16_", ".png");
+        row("a prefix in other letters is part of the name", "bmp_16_Cut", "bmp_16_cut.png");
+        row("a prefix within the name", "BMP_16_BMP_16_A", "bmp_16_a.png");
     }
     void anIconIsNamedAfterItsBitmap()
     {
@@ -219,22 +213,14 @@ private Q_SLOTS:
 
     void oneSeparatorGoesFromTheEndOfEachLevel_data()
     {
-        QTest::addColumn<QString>("written");
-        QTest::addColumn<QString>("kept");
-        QTest::newRow("one at the end goes") << "ab-"
-                                             << "a b";
-        QTest::newRow("of two the first stays") << "a--"
-                                                << "a -";
-        QTest::newRow("at the start and within they stay") << "-a-b"
-                                                           << "- a - b";
-        QTest::newRow("each level loses its own") << "a(b-)-c(d(e--)f-)-"
-                                                  << "a(b) - c(d(e -) f)";
-        QTest::newRow("a sub-menu at the end keeps the one before it") << "a-b(c)"
-                                                                       << "a - b(c)";
-        QTest::newRow("a menu of nothing else is empty") << "-"
-                                                         << "";
-        QTest::newRow("a sub-menu of nothing else is empty") << "a(-)b"
-                                                             << "a b";
+        const auto row = velmtest::columns<QString, QString>("written", "kept");
+        row("one at the end goes", "ab-", "a b");
+        row("of two the first stays", "a--", "a -");
+        row("at the start and within they stay", "-a-b", "- a - b");
+        row("each level loses its own", "a(b-)-c(d(e--)f-)-", "a(b) - c(d(e -) f)");
+        row("a sub-menu at the end keeps the one before it", "a-b(c)", "a - b(c)");
+        row("a menu of nothing else is empty", "-", "");
+        row("a sub-menu of nothing else is empty", "a(-)b", "a b");
     }
     void oneSeparatorGoesFromTheEndOfEachLevel()
     {

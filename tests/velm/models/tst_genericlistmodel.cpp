@@ -3,6 +3,7 @@
 #include "support/changescript.h"
 #include "support/rowtext.h"
 #include "support/signallog.h"
+#include "support/table.h"
 
 #include <QAbstractItemModelTester>
 #include <QTest>
@@ -88,29 +89,24 @@ class TestGenericListModel : public QObject
 private Q_SLOTS:
     void aChangeIsOnePairOfSignalsOrNone_data()
     {
-        QTest::addColumn<QString>("after");
-        QTest::addColumn<QString>("log");
-        QTest::addColumn<Change>("change");
-        const auto change = [](const char* name, const QString& after, const QString& log, const Change& change) {
-            QTest::newRow(name) << after << log << change;
-        };
-        const auto rows = [change](const QString& kind) {
+        const auto row = velmtest::columns<QString, QString, Change>("after", "log", "change");
+        const auto rows = [row](const QString& kind) {
             return [=](const char* name, const QString& after, const QString& range, const Change& edit) {
-                change(name, after, QString("rowsAboutToBe%1(%2) rows%1(%2)").arg(kind, range), edit);
+                row(name, after, QString("rowsAboutToBe%1(%2) rows%1(%2)").arg(kind, range), edit);
             };
         };
         const auto inserts = rows("Inserted");
         const auto removes = rows("Removed");
         const auto moves = rows("Moved");
-        const auto nothing = [change](const char* name, const Change& none) { change(name, "a b c d e", {}, none); };
+        const auto nothing = [row](const char* name, const Change& none) { row(name, "a b c d e", {}, none); };
         const QString reset = "modelAboutToBeReset modelReset";
 
-        change("clearing, an empty list, too", "", reset + ' ' + reset, [](auto& m) { m.clear(), m.clear(); });
-        change("a reset takes over other rows", "x y", reset, [](auto& m) { m.reset(texts("xy")); });
-        change("a reset with its own rows keeps them", "a b c d e", reset,
-               [](auto& m) { m.reset(std::move(const_cast<Texts&>(m.getItems()))); });
+        row("clearing, an empty list, too", "", reset + ' ' + reset, [](auto& m) { m.clear(), m.clear(); });
+        row("a reset takes over other rows", "x y", reset, [](auto& m) { m.reset(texts("xy")); });
+        row("a reset with its own rows keeps them", "a b c d e", reset,
+            [](auto& m) { m.reset(std::move(const_cast<Texts&>(m.getItems()))); });
 
-        change("an update", "a b c d x", "dataChanged(4,0, 4,0, [])", [](auto& m) { m.update(4, "x"); });
+        row("an update", "a b c d x", "dataChanged(4,0, 4,0, [])", [](auto& m) { m.update(4, "x"); });
         nothing("an update behind the last row", [](auto& m) { m.update(5, "x"); });
         nothing("an update before the first row", [](auto& m) { m.update(-1, "x"); });
 
@@ -188,17 +184,14 @@ private Q_SLOTS:
 
     void aMoveToAnotherModelThatDoesNotFit_data()
     {
-        QTest::addColumn<int>("first");
-        QTest::addColumn<int>("last");
-        QTest::addColumn<int>("dest");
-        QTest::addColumn<QString>("log");
-        QTest::newRow("a first row behind the last one") << 3 << 3 << 0 << QString();
-        QTest::newRow("a last row behind the last one") << 0 << 3 << 0 << QString();
-        QTest::newRow("a negative first row") << -1 << 1 << 0 << QString();
-        QTest::newRow("a negative last row") << 0 << -1 << 0 << QString();
-        QTest::newRow("a place behind the other model's end") << 0 << 1 << 2 << QString();
-        QTest::newRow("an empty range is announced, yet nothing goes over")
-            << 2 << 1 << 0 << QString("rowsAboutToBeRemoved(-, 2, 1) rowsRemoved(-, 2, 1)");
+        const auto row = velmtest::columns<int, int, int, QString>("first", "last", "dest", "log");
+        row("a first row behind the last one", 3, 3, 0, QString());
+        row("a last row behind the last one", 0, 3, 0, QString());
+        row("a negative first row", -1, 1, 0, QString());
+        row("a negative last row", 0, -1, 0, QString());
+        row("a place behind the other model's end", 0, 1, 2, QString());
+        row("an empty range is announced, yet nothing goes over", 2, 1, 0,
+            "rowsAboutToBeRemoved(-, 2, 1) rowsRemoved(-, 2, 1)");
     }
     void aMoveToAnotherModelThatDoesNotFit()
     {

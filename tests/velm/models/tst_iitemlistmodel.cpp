@@ -1,6 +1,7 @@
 #include "velm/models/iitemlistmodel.h"
 #include "velm/models/ilistitemlistmodel.h"
 
+#include "support/table.h"
 #include "support/vtableslots.h"
 #include "velm/models/menumodel.h"
 
@@ -155,20 +156,18 @@ private Q_SLOTS:
 
     void aRoleIsWritten_data()
     {
-        QTest::addColumn<int>("role");
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<QString>("told");
-        QTest::newRow("a name") << 0 << QVariant("x") << "name x";
-        QTest::newRow("a name from a number") << 0 << QVariant(7) << "name 7";
-        QTest::newRow("the present name") << 0 << QVariant("name") << QString();
-        QTest::newRow("the name's editor") << 5 << QVariant(true) << "showNameEdit 1";
-        QTest::newRow("the name's editor stays closed") << 5 << QVariant(false) << QString();
-        QTest::newRow("the mark") << 6 << QVariant(true) << "checked 1";
-        QTest::newRow("the present mark") << 6 << QVariant(false) << QString();
-        QTest::newRow("nothing is another mark, if false") << 6 << QVariant() << "checked 0";
-        QTest::newRow("whether it can be edited") << 7 << QVariant(true) << QString();
-        QTest::newRow("an icon") << 1 << QVariant("x") << QString();
-        QTest::newRow("nobody's role") << 4 << QVariant("x") << QString();
+        const auto row = velmtest::columns<int, QVariant, QString>("role", "value", "told");
+        row("a name", 0, "x", "name x");
+        row("a name from a number", 0, 7, "name 7");
+        row("the present name", 0, "name", QString());
+        row("the name's editor", 5, true, "showNameEdit 1");
+        row("the name's editor stays closed", 5, false, QString());
+        row("the mark", 6, true, "checked 1");
+        row("the present mark", 6, false, QString());
+        row("nothing is another mark, if false", 6, QVariant(), "checked 0");
+        row("whether it can be edited", 7, true, QString());
+        row("an icon", 1, "x", QString());
+        row("nobody's role", 4, "x", QString());
     }
     void aRoleIsWritten()
     {

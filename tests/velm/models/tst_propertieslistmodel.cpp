@@ -3,6 +3,7 @@
 #include "support/roletext.h"
 #include "support/rowtext.h"
 #include "support/signallog.h"
+#include "support/table.h"
 
 #include <QAbstractItemModelTester>
 #include <QTest>
@@ -138,15 +139,13 @@ private Q_SLOTS:
 
     void thePagesChangeCallsTheHandlerAndIsNotSignalled_data()
     {
-        QTest::addColumn<QVariant>("before");
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<bool>("isTaken");
-        QTest::newRow("a bool") << QVariant(false) << QVariant(true) << true;
-        QTest::newRow("a number") << QVariant(1) << QVariant(2) << true;
-        QTest::newRow("a text") << QVariant("a") << QVariant("b") << true;
-        QTest::newRow("the present text") << QVariant("a") << QVariant("a") << false;
-        QTest::newRow("a floating number is none of the known types") << QVariant(1.5) << QVariant(2.5) << false;
-        QTest::newRow("nothing for nothing") << QVariant() << QVariant() << false;
+        const auto row = velmtest::columns<QVariant, QVariant, bool>("before", "value", "isTaken");
+        row("a bool", false, true, true);
+        row("a number", 1, 2, true);
+        row("a text", "a", "b", true);
+        row("the present text", "a", "a", false);
+        row("a floating number is none of the known types", 1.5, 2.5, false);
+        row("nothing for nothing", QVariant(), QVariant(), false);
     }
     void thePagesChangeCallsTheHandlerAndIsNotSignalled()
     {

@@ -5,6 +5,7 @@
 #include "support/changescript.h"
 #include "support/rowtext.h"
 #include "support/signallog.h"
+#include "support/table.h"
 
 #include <QAbstractItemModelTester>
 #include <QTest>
@@ -118,30 +119,14 @@ private Q_SLOTS:
 
     void aChangeIsSignalledWhereItIsSeen_data()
     {
-        QTest::addColumn<QString>("root");
-        QTest::addColumn<QString>("parent");
-        QTest::addColumn<QString>("place");
-        QTest::newRow("without a root nothing is, not on the top level") << ""
-                                                                         << ""
-                                                                         << "";
-        QTest::newRow("without a root nothing is, not below") << ""
-                                                              << "A"
-                                                              << "";
-        QTest::newRow("right under the root") << "a2"
-                                              << "a2"
-                                              << "-";
-        QTest::newRow("deeper") << "a2"
-                                << "x"
-                                << "0,0";
-        QTest::newRow("under a sibling of the root") << "a2"
-                                                     << "a1"
-                                                     << "";
-        QTest::newRow("beside the root") << "a2"
-                                         << "A"
-                                         << "";
-        QTest::newRow("on the source's top level") << "a2"
-                                                   << ""
-                                                   << "";
+        const auto row = velmtest::columns<QString, QString, QString>("root", "parent", "place");
+        row("without a root nothing is, not on the top level", "", "", "");
+        row("without a root nothing is, not below", "", "A", "");
+        row("right under the root", "a2", "a2", "-");
+        row("deeper", "a2", "x", "0,0");
+        row("under a sibling of the root", "a2", "a1", "");
+        row("beside the root", "a2", "A", "");
+        row("on the source's top level", "a2", "", "");
     }
     void aChangeIsSignalledWhereItIsSeen()
     {
@@ -177,12 +162,9 @@ private Q_SLOTS:
 
     void whenTheRootGoesTheSourcesTopLevelIsSeen_data()
     {
-        QTest::addColumn<QString>("removed");
-        QTest::addColumn<QString>("rows");
-        QTest::newRow("the root itself") << "a2"
-                                         << "A(a1) B(b1)";
-        QTest::newRow("the row above it") << "A"
-                                          << "B(b1)";
+        const auto row = velmtest::columns<QString, QString>("removed", "rows");
+        row("the root itself", "a2", "A(a1) B(b1)");
+        row("the row above it", "A", "B(b1)");
     }
     void whenTheRootGoesTheSourcesTopLevelIsSeen()
     {

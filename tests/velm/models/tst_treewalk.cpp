@@ -1,4 +1,5 @@
 #include "stringtree.h"
+#include "support/table.h"
 
 #include <QTest>
 
@@ -78,14 +79,11 @@ private Q_SLOTS:
 
     void aReadingWalkFollowsItsCallback_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<TreeWalk>("answer");
-        QTest::addColumn<QString>("visited");
-        QTest::newRow("stop ends it in the midst of a level") << "x" << TreeWalk::Stop << "A a1 a2 x";
-        QTest::newRow("skipped children don't come, their uncles do")
-            << "a2" << TreeWalk::SkipChildren << "A a1 a2 a3 B b1";
-        QTest::newRow("a leaf has nothing to skip") << "a1" << TreeWalk::SkipChildren << "A a1 a2 x y a3 B b1";
-        QTest::newRow("the last top row skipped") << "B" << TreeWalk::SkipChildren << "A a1 a2 x y a3 B";
+        const auto row = velmtest::columns<QString, TreeWalk, QString>("text", "answer", "visited");
+        row("stop ends it in the midst of a level", "x", TreeWalk::Stop, "A a1 a2 x");
+        row("skipped children don't come, their uncles do", "a2", TreeWalk::SkipChildren, "A a1 a2 a3 B b1");
+        row("a leaf has nothing to skip", "a1", TreeWalk::SkipChildren, "A a1 a2 x y a3 B b1");
+        row("the last top row skipped", "B", TreeWalk::SkipChildren, "A a1 a2 x y a3 B");
     }
     void aReadingWalkFollowsItsCallback()
     {
@@ -97,16 +95,12 @@ private Q_SLOTS:
 
     void anEditingWalkFollowsItsCallback_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<TreeWalkEdit>("answer");
-        QTest::addColumn<QString>("visited");
-        QTest::newRow("stop ends it") << "y" << TreeWalkEdit::Stop << "b1 B a3 y";
-        QTest::newRow("a skip closes the sibling that comes next")
-            << "a3" << TreeWalkEdit::SkipChildren << "b1 B a3 a2 a1 A";
-        QTest::newRow("a skip on the top level does so, too") << "B" << TreeWalkEdit::SkipChildren << "b1 B A";
-        QTest::newRow("a skip at the first child goes on to the parent")
-            << "x" << TreeWalkEdit::SkipChildren << "b1 B a3 y x a2 a1 A";
-        QTest::newRow("a deleted row was passed already") << "a2" << TreeWalkEdit::Delete << "b1 B a3 y x a2 a1 A";
+        const auto row = velmtest::columns<QString, TreeWalkEdit, QString>("text", "answer", "visited");
+        row("stop ends it", "y", TreeWalkEdit::Stop, "b1 B a3 y");
+        row("a skip closes the sibling that comes next", "a3", TreeWalkEdit::SkipChildren, "b1 B a3 a2 a1 A");
+        row("a skip on the top level does so, too", "B", TreeWalkEdit::SkipChildren, "b1 B A");
+        row("a skip at the first child goes on to the parent", "x", TreeWalkEdit::SkipChildren, "b1 B a3 y x a2 a1 A");
+        row("a deleted row was passed already", "a2", TreeWalkEdit::Delete, "b1 B a3 y x a2 a1 A");
     }
     void anEditingWalkFollowsItsCallback()
     {

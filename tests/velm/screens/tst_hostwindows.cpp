@@ -1,6 +1,7 @@
 #include "velm/screens/imonitorinfo.h"
 #include "velm/screens/screencoordinates.h"
 
+#include "support/table.h"
 #include "workbench/wxtestmain.h"
 
 #include <QScreen>
@@ -37,13 +38,12 @@ private Q_SLOTS:
 
     void whereAWindowStands_data()
     {
-        QTest::addColumn<double>("scale");
-        QTest::addColumn<QPointF>("origin");
-        QTest::newRow("one to one") << 1.0 << QPointF();
-        QTest::newRow("another monitor, one to one") << 1.0 << QPointF(-1920.0, 30.0);
-        QTest::newRow("one and a half") << 1.5 << QPointF();
-        QTest::newRow("another monitor at one and a half") << 1.5 << QPointF(-1921.0, 33.0);
-        QTest::newRow("far to the right, where places are negative") << 1.75 << QPointF(2561.0, 1999.0);
+        const auto row = velmtest::columns<double, QPointF>("scale", "origin");
+        row("one to one", 1.0, QPointF());
+        row("another monitor, one to one", 1.0, QPointF(-1920.0, 30.0));
+        row("one and a half", 1.5, QPointF());
+        row("another monitor at one and a half", 1.5, QPointF(-1921.0, 33.0));
+        row("far to the right, where places are negative", 1.75, QPointF(2561.0, 1999.0));
     }
     void whereAWindowStands()
     {

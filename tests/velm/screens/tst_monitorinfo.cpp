@@ -1,5 +1,6 @@
 #include "velm/screens/imonitorinfo.h"
 
+#include "support/table.h"
 #include "velm/screens/screencoordinates.h"
 #include "velm/screens/windowsmonitorapi.h"
 
@@ -33,19 +34,16 @@ class TestMonitorInfo : public QObject
 private Q_SLOTS:
     void aPointHasItsMonitor_data()
     {
-        QTest::addColumn<QPointF>("point");
-        QTest::addColumn<QString>("logical");
-        QTest::addColumn<QString>("physical");
-        QTest::addColumn<double>("scale");
+        const auto row = velmtest::columns<QPointF, QString, QString, double>("point", "logical", "physical", "scale");
         const QString left = "0,0 *1 0,0 1000x800";
         const QString logicalRight = "1000,-200 *1 1000,-200 1000x800";
         const QString physicalRight = "1000,-200 *1 1000,-200 1500x1200";
         const QString none = "0,0 *1 0,0 0x0";
-        QTest::newRow("left") << QPointF(10.0, 10.0) << left << left << 1.0;
-        QTest::newRow("right") << QPointF(1500.0, -100.0) << logicalRight << physicalRight << 1.5;
-        QTest::newRow("one is rounded, the other cut off") << QPointF(999.6, 10.0) << logicalRight << left << 1.5;
-        QTest::newRow("logically nowhere") << QPointF(2200.0, 10.0) << none << physicalRight << 1.0;
-        QTest::newRow("nowhere") << QPointF(-1.0, -1.0) << none << none << 1.0;
+        row("left", QPointF(10.0, 10.0), left, left, 1.0);
+        row("right", QPointF(1500.0, -100.0), logicalRight, physicalRight, 1.5);
+        row("one is rounded, the other cut off", QPointF(999.6, 10.0), logicalRight, left, 1.5);
+        row("logically nowhere", QPointF(2200.0, 10.0), none, physicalRight, 1.0);
+        row("nowhere", QPointF(-1.0, -1.0), none, none, 1.0);
     }
     void aPointHasItsMonitor()
     {
@@ -87,13 +85,12 @@ private Q_SLOTS:
 
     void pointsBecomePhysical_data()
     {
-        QTest::addColumn<QPointF>("point");
-        QTest::addColumn<QPointF>("expected");
-        QTest::newRow("from 0 on, cut off") << QPointF(100.9, 50.9) << QPointF(100.0, 50.0);
-        QTest::newRow("from the monitor's corner") << QPointF(1100.0, 0.0) << QPointF(1150.0, 100.0);
-        QTest::newRow("cut off within the monitor") << QPointF(1003.9, -196.1) << QPointF(1005.0, -195.0);
-        QTest::newRow("the corner itself") << QPointF(1000.0, -200.0) << QPointF(1000.0, -200.0);
-        QTest::newRow("-1 stays within the monitor") << QPointF(1500.0, -201.0) << QPointF(1750.0, -201.0);
+        const auto row = velmtest::columns<QPointF, QPointF>("point", "expected");
+        row("from 0 on, cut off", QPointF(100.9, 50.9), QPointF(100.0, 50.0));
+        row("from the monitor's corner", QPointF(1100.0, 0.0), QPointF(1150.0, 100.0));
+        row("cut off within the monitor", QPointF(1003.9, -196.1), QPointF(1005.0, -195.0));
+        row("the corner itself", QPointF(1000.0, -200.0), QPointF(1000.0, -200.0));
+        row("-1 stays within the monitor", QPointF(1500.0, -201.0), QPointF(1750.0, -201.0));
     }
     void pointsBecomePhysical()
     {

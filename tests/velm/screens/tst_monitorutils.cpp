@@ -1,6 +1,7 @@
 #include "velm/screens/monitorutils.h"
 
 #include "fakemonitors.h"
+#include "support/table.h"
 
 #include <QTest>
 
@@ -42,18 +43,16 @@ private Q_SLOTS:
 
     void unitsFollowTheDots_data()
     {
-        QTest::addColumn<int>("dpi");
-        QTest::addColumn<int>("value");
-        QTest::addColumn<int>("perMonitor"); // -99: none
-        QTest::addColumn<int>("result");
-        QTest::newRow("one and a half") << 144 << 100 << 150 << 150;
-        QTest::newRow("rounded") << 120 << 2 << 3 << 3;
-        QTest::newRow("rounded away from 0") << 144 << -3 << -5 << -5;
-        QTest::newRow("-1 stays") << 192 << -1 << -1 << -1;
-        QTest::newRow("0 is the system's") << 144 << 0 << 0 << 1000;
-        QTest::newRow("what comes out as 0 is the system's") << 40 << 1 << 0 << 1001;
-        QTest::newRow("no dots") << 0 << 1 << -99 << 1001;
-        QTest::newRow("-1 without dots is the system's") << 0 << -1 << -99 << 999;
+        // Per monitor, -99 is none.
+        const auto row = velmtest::columns<int, int, int, int>("dpi", "value", "perMonitor", "result");
+        row("one and a half", 144, 100, 150, 150);
+        row("rounded", 120, 2, 3, 3);
+        row("rounded away from 0", 144, -3, -5, -5);
+        row("-1 stays", 192, -1, -1, -1);
+        row("0 is the system's", 144, 0, 0, 1000);
+        row("what comes out as 0 is the system's", 40, 1, 0, 1001);
+        row("no dots", 0, 1, -99, 1001);
+        row("-1 without dots is the system's", 0, -1, -99, 999);
     }
     void unitsFollowTheDots()
     {

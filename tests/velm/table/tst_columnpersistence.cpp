@@ -1,6 +1,7 @@
 #include "velm/table/columnpersistence.h"
 
 #include "sourcetable.h"
+#include "support/table.h"
 
 using namespace velm;
 using namespace velmtest;
@@ -30,13 +31,12 @@ private Q_SLOTS:
 
     void positionsStepAroundColumnsThatArentThere_data()
     {
-        QTest::addColumn<QList<int>>("foreignWidths");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("a width that is no position of the table") << QList{120} << "50@0 60@1 0@2h";
-        QTest::newRow("a width is taken for a position") << QList{1} << "50@0 60@2 0@3h";
-        QTest::newRow("widths are taken in order") << QList{3, 1} << "50@0 60@2 0@4h";
-        QTest::newRow("the same width twice") << QList{1, 1} << "50@0 60@3 0@4h";
-        QTest::newRow("hidden ones don't count") << QList{-1} << "50@0 60@1 0@2h";
+        const auto row = velmtest::columns<QList<int>, QString>("foreignWidths", "expected");
+        row("a width that is no position of the table", QList{120}, "50@0 60@1 0@2h");
+        row("a width is taken for a position", QList{1}, "50@0 60@2 0@3h");
+        row("widths are taken in order", QList{3, 1}, "50@0 60@2 0@4h");
+        row("the same width twice", QList{1, 1}, "50@0 60@3 0@4h");
+        row("hidden ones don't count", QList{-1}, "50@0 60@1 0@2h");
     }
     void positionsStepAroundColumnsThatArentThere()
     {
@@ -85,12 +85,8 @@ private Q_SLOTS:
 
     void whatIsStoredMayNotFit_data()
     {
-        QTest::addColumn<QString>("source");
-        QTest::addColumn<QString>("stored"); // id, width and position
-        QTest::addColumn<QString>("columns");
-        const auto row = [](const char* name, const char* source, const char* stored, const char* columns) {
-            QTest::newRow(name) << source << stored << columns;
-        };
+        // What is stored: id, width and position.
+        const auto row = velmtest::columns<QString, QString, QString>("source", "stored", "columns");
         row("a new column comes first, at 0", "ABC", "A 10 0,B 10 1", "ACB");
         row("one that is gone leaves no gap", "AC", "C 10 0,B 10 1,A 10 2", "CA");
         row("negative positions hide", "ABC", "A 10 -1,B 10 0,C 10 1", "BC");

@@ -3,6 +3,7 @@
 #include "velm/units/velmconfig.h"
 
 #include "support/scopes.h"
+#include "support/table.h"
 
 #include <QTest>
 
@@ -14,12 +15,7 @@ class TestColumns : public QObject
 private Q_SLOTS:
     void headers_data()
     {
-        QTest::addColumn<int>("role");
-        QTest::addColumn<QVariant>("plain");
-        QTest::addColumn<QVariant>("full");
-        const auto row = [](const char* name, int role, const QVariant& plain, const QVariant& full) {
-            QTest::newRow(name) << role << plain << full;
-        };
+        const auto row = velmtest::columns<int, QVariant, QVariant>("role", "plain", "full");
         const auto edit = [](bool selectionColumn, int alignment) {
             return QVariantMap{{"selectionColumn", selectionColumn}, {"textAlignment", alignment}};
         };

@@ -6,6 +6,7 @@
 #include "velm/table/sortkeys.h"
 
 #include "support/scopes.h"
+#include "support/table.h"
 
 #include <QDateTime>
 #include <QRandomGenerator>
@@ -129,12 +130,8 @@ class TestComparators : public QObject
 private Q_SLOTS:
     void pairs_data()
     {
-        QTest::addColumn<QString>("comparator");
-        QTest::addColumn<QString>("left");
-        QTest::addColumn<QString>("right");
-        QTest::addColumn<QString>("order"); // < when left is less, > when right is, = when neither is
-        const auto row = [](const char* name, const char* comparator, const QString& left, const QString& right,
-                            const char* order) { QTest::newRow(name) << comparator << left << right << order; };
+        // The order is < when left is less, > when right is, = when neither is.
+        const auto row = velmtest::columns<QString, QString, QString, QString>("comparator", "left", "right", "order");
         row("digits count by value", "strings", "Layer 9", "Layer 10", "<");
         row("so do runs beyond any integer", "strings", "9" + QString(30, '0'), "1" + QString(31, '0'), "<");
         row("an empty text comes first", "strings", "", "a", "<");
@@ -239,12 +236,7 @@ private Q_SLOTS:
 
     void byValueType_data()
     {
-        QTest::addColumn<QVariant>("left");
-        QTest::addColumn<QVariant>("right");
-        QTest::addColumn<bool>("forwards");
-        QTest::addColumn<bool>("backwards");
-        const auto row = [](const char* name, const QVariant& left, const QVariant& right, bool forwards,
-                            bool backwards) { QTest::newRow(name) << left << right << forwards << backwards; };
+        const auto row = velmtest::columns<QVariant, QVariant, bool, bool>("left", "right", "forwards", "backwards");
         row("no value is last", QVariant(), QVariant(-1), false, true);
         row("the left type converts the right value", QVariant(2), QVariant("10"), true, false);
         row("a text beside a number is natural, unless the number is left", QVariant("b"), QVariant(-7), false, true);
@@ -275,8 +267,7 @@ private Q_SLOTS:
     /// A sort doesn't compare cells but keys that were made of them: each pair stands to each other as before.
     void keysHaveTheOrderOfTheCells_data()
     {
-        QTest::addColumn<int>("sortType");
-        QTest::addColumn<bool>("mixed");
+        velmtest::columns<int, bool>("sortType", "mixed");
         for (int type = -1; type <= 14; ++type) {
             QTest::addRow("texts by type %d", type) << type << false;
             QTest::addRow("values by type %d", type) << type << true;

@@ -1,4 +1,5 @@
 #include "sourcetable.h"
+#include "support/table.h"
 
 #include <limits>
 
@@ -156,18 +157,16 @@ private Q_SLOTS:
 
     void columnsComeAndGo_data()
     {
-        QTest::addColumn<int>("sorted"); // the source column
-        QTest::addColumn<int>("first");
-        QTest::addColumn<int>("count");
-        QTest::addColumn<int>("behindInsert");
-        QTest::addColumn<int>("behindRemove");
+        // By the source column that is sorted.
+        const auto row =
+            velmtest::columns<int, int, int, int, int>("sorted", "first", "count", "behindInsert", "behindRemove");
         // Exact for one column only.
-        QTest::newRow("one before") << 2 << 1 << 1 << 3 << 1;
-        QTest::newRow("one in its place") << 2 << 2 << 1 << 3 << -1;
-        QTest::newRow("one behind") << 1 << 2 << 1 << 1 << 1;
-        QTest::newRow("two at the beginning") << 3 << 0 << 2 << 3 << 3;
-        QTest::newRow("two with it among them") << 2 << 1 << 2 << 2 << -1;
-        QTest::newRow("three before") << 3 << 0 << 3 << 2 << 4;
+        row("one before", 2, 1, 1, 3, 1);
+        row("one in its place", 2, 2, 1, 3, -1);
+        row("one behind", 1, 2, 1, 1, 1);
+        row("two at the beginning", 3, 0, 2, 3, 3);
+        row("two with it among them", 2, 1, 2, 2, -1);
+        row("three before", 3, 0, 3, 2, 4);
     }
     void columnsComeAndGo()
     {
@@ -245,14 +244,12 @@ private Q_SLOTS:
 
     void changedCellsAreToldWhereTheyStand_data()
     {
-        QTest::addColumn<QString>("order"); // shown source columns
-        QTest::addColumn<int>("first");
-        QTest::addColumn<int>("last");
-        QTest::addColumn<QStringList>("runs"); // proxy columns
-        QTest::newRow("a hidden one left out") << "023" << 0 << 2 << QStringList{"0 1"};
-        QTest::newRow("apart") << "0213" << 0 << 1 << QStringList{"0 0", "2 2"};
-        QTest::newRow("apart with one hidden") << "310" << 1 << 3 << QStringList{"0 1"};
-        QTest::newRow("all hidden") << "30" << 1 << 2 << QStringList{};
+        // The order is of the shown source columns, the runs are of the table's.
+        const auto row = velmtest::columns<QString, int, int, QStringList>("order", "first", "last", "runs");
+        row("a hidden one left out", "023", 0, 2, {"0 1"});
+        row("apart", "0213", 0, 1, {"0 0", "2 2"});
+        row("apart with one hidden", "310", 1, 3, {"0 1"});
+        row("all hidden", "30", 1, 2, {});
     }
     void changedCellsAreToldWhereTheyStand()
     {

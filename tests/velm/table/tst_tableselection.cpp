@@ -1,5 +1,6 @@
 #include "sourcetable.h"
 
+#include "support/table.h"
 #include "velm/models/stringtree.h"
 
 using namespace velm;
@@ -29,13 +30,9 @@ private Q_SLOTS:
 
     void clicksAndKeys_data()
     {
-        QTest::addColumn<Mode>("mode");
-        QTest::addColumn<QString>("script"); // see run()
-        QTest::addColumn<QString>("selected");
-        QTest::addColumn<QString>("current");
-        QTest::addColumn<int>("count");
-        const auto row = [](const char* name, Mode mode, const char* script, const char* selected, const char* current,
-                            int count) { QTest::newRow(name) << mode << script << selected << current << count; };
+        // For the script see run().
+        const auto row =
+            velmtest::columns<Mode, QString, QString, QString, int>("mode", "script", "selected", "current", "count");
         row("a click takes the row", Table::Row, "L11", "...|xxx|...|...", "11", 1);
         row("shift begins at the first cell", Table::Row, "S21", "xxx|xxx|xxx|...", "21", 3);
         row("and keeps its anchor", Table::Row, "L10 S30 S00", "xxx|xxx|...|...", "10", 2);
@@ -170,16 +167,14 @@ private Q_SLOTS:
 
     void hover_data()
     {
-        QTest::addColumn<Mode>("mode");
-        QTest::addColumn<QString>("script"); // row, column, entered or left
-        QTest::addColumn<QString>("signalText");
-        QTest::addColumn<QString>("hovered");
-        const auto row = [](const char* name, Mode mode, const char* script, const QStringList& told,
+        // Each step has row and column, and whether it was entered or left.
+        const auto add = velmtest::columns<Mode, QString, QString, QString>("mode", "script", "signalText", "hovered");
+        const auto row = [&add](const char* name, Mode mode, const char* script, const QStringList& told,
                             const char* hovered) {
             QStringList texts;
             for (const QString& corners : told)
                 texts += "dataChanged(" + corners + ", [257])";
-            QTest::newRow(name) << mode << script << texts.join(' ') << hovered;
+            add(name, mode, script, texts.join(' '), hovered);
         };
         const QString row1 = "1,0, 1,2";
         const QString row2 = "2,0, 2,2";
@@ -216,12 +211,8 @@ private Q_SLOTS:
 
     void preFocus_data()
     {
-        QTest::addColumn<QString>("script");
-        QTest::addColumn<QString>("signalText"); // of the last step: the cells told of
-        QTest::addColumn<QString>("cell");
-        const auto row = [](const char* name, const char* script, const char* told, const char* cell) {
-            QTest::newRow(name) << script << told << cell;
-        };
+        // The signals are those of the last step: the cells told of.
+        const auto row = velmtest::columns<QString, QString, QString>("script", "signalText", "cell");
         row("rows need one", "L11 +", "", "");
         row("a column begins it, in the current row", "L11 >", "1,0 1,0", "1,0");
         row("backwards as well", "L11 <", "1,0 1,0", "1,0");

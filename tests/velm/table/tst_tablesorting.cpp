@@ -1,4 +1,5 @@
 #include "sourcetable.h"
+#include "support/table.h"
 
 using namespace velm;
 using namespace velmtest;
@@ -22,20 +23,18 @@ private Q_SLOTS:
 
     void sortsByTheColumnsType_data()
     {
-        QTest::addColumn<QString>("cells");
-        QTest::addColumn<QVariant>("type");
-        QTest::addColumn<QString>("expected");
+        const auto row = velmtest::columns<QString, QVariant, QString>("cells", "type", "expected");
         const QString names = "n10|n9|N1|Mx";
-        QTest::newRow("natural") << names << QVariant(0) << "Mx|N1|n9|n10";
-        QTest::newRow("without regard to case") << names << QVariant(1) << "Mx|N1|n10|n9";
-        QTest::newRow("the base's own") << "b|a|c" << QVariant(2) << "a|b|c";
-        QTest::newRow("the same under another number") << "b|a|c" << QVariant(3) << "a|b|c";
-        QTest::newRow("by value, nothing last") << "10|-|9|-|1" << QVariant(4) << "1|9|10||";
-        QTest::newRow("no type is by value") << "10|-|9" << QVariant() << "9|10|";
-        QTest::newRow("a type that is no number is by value") << "10|-|9" << QVariant(QVariantList{1}) << "9|10|";
-        QTest::newRow("a type as text is taken as a number") << names << QVariant("1") << "Mx|N1|n10|n9";
-        QTest::newRow("disabled first") << "a|zDisabled|B" << QVariant(9) << "zDisabled|a|B";
-        QTest::newRow("decorations are all alike here") << "b|a" << QVariant(13) << "b|a";
+        row("natural", names, 0, "Mx|N1|n9|n10");
+        row("without regard to case", names, 1, "Mx|N1|n10|n9");
+        row("the base's own", "b|a|c", 2, "a|b|c");
+        row("the same under another number", "b|a|c", 3, "a|b|c");
+        row("by value, nothing last", "10|-|9|-|1", 4, "1|9|10||");
+        row("no type is by value", "10|-|9", QVariant(), "9|10|");
+        row("a type that is no number is by value", "10|-|9", QVariantList{1}, "9|10|");
+        row("a type as text is taken as a number", names, "1", "Mx|N1|n10|n9");
+        row("disabled first", "a|zDisabled|B", 9, "zDisabled|a|B");
+        row("decorations are all alike here", "b|a", 13, "b|a");
     }
     void sortsByTheColumnsType()
     {

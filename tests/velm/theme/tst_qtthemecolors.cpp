@@ -2,6 +2,7 @@
 
 #include "faketheme.h"
 #include "support/scopes.h"
+#include "support/table.h"
 #include "ut/config.h"
 #include "velm/bridge/engine.h"
 #include "velm/bridge/iqtcontroller.h"
@@ -138,21 +139,18 @@ private Q_SLOTS:
 
     void aColorIsReadFromTheMap_data()
     {
-        QTest::addColumn<QVariant>("entry");
-        QTest::addColumn<unsigned long>("color");
-        QTest::addColumn<QString>("log");
+        const auto row = velmtest::columns<QVariant, unsigned long, QString>("entry", "color", "log");
         const QString wrongSize = "Invalid color format: wrong size or wrong first character ";
-        QTest::newRow("red stands in the low byte") << QVariant("#102030") << 0x302010ul << "";
-        QTest::newRow("letters of either case are digits") << QVariant("#aBcDeF") << 0xEFCDABul << "";
-        QTest::newRow("a colour is as good as its name") << QVariant(QColor(1, 2, 3)) << 0x030201ul << "";
-        QTest::newRow("no hash") << QVariant("0102030") << fallback << wrongSize + "0102030";
-        QTest::newRow("one digit less") << QVariant("#10203") << fallback << wrongSize + "#10203";
-        QTest::newRow("with alpha") << QVariant("#ff102030") << fallback << wrongSize + "#ff102030";
-        QTest::newRow("nothing") << QVariant("") << fallback << wrongSize;
-        QTest::newRow("six characters of more than six bytes")
-            << QVariant(QString::fromUtf8("#1020é0")) << fallback << "Invalid color format: unexpected array length 7";
-        QTest::newRow("no hexadecimal digits")
-            << QVariant("#panels") << fallback << "Invalid color format: not hexadecimal #panels";
+        row("red stands in the low byte", "#102030", 0x302010ul, "");
+        row("letters of either case are digits", "#aBcDeF", 0xEFCDABul, "");
+        row("a colour is as good as its name", QColor(1, 2, 3), 0x030201ul, "");
+        row("no hash", "0102030", fallback, wrongSize + "0102030");
+        row("one digit less", "#10203", fallback, wrongSize + "#10203");
+        row("with alpha", "#ff102030", fallback, wrongSize + "#ff102030");
+        row("nothing", "", fallback, wrongSize);
+        row("six characters of more than six bytes", QString::fromUtf8("#1020é0"), fallback,
+            "Invalid color format: unexpected array length 7");
+        row("no hexadecimal digits", "#panels", fallback, "Invalid color format: not hexadecimal #panels");
     }
     void aColorIsReadFromTheMap()
     {

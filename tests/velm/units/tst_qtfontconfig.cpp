@@ -1,5 +1,7 @@
 #include "velm/units/qtfontconfig.h"
 
+#include "support/table.h"
+
 #include <QGuiApplication>
 #include <QTest>
 
@@ -13,11 +15,10 @@ private Q_SLOTS:
 
     void renderingFollowsThePixelRatio_data()
     {
-        QTest::addColumn<QByteArray>("scale");
-        QTest::addColumn<QQuickWindow::TextRenderType>("renderType");
-        QTest::newRow("ratio 1 renders natively") << QByteArray("1") << QQuickWindow::NativeTextRendering;
-        QTest::newRow("ratio 2 renders natively") << QByteArray("2") << QQuickWindow::NativeTextRendering;
-        QTest::newRow("a fraction is left to Qt") << QByteArray("1.25") << QQuickWindow::QtTextRendering;
+        const auto row = velmtest::columns<QByteArray, QQuickWindow::TextRenderType>("scale", "renderType");
+        row("ratio 1 renders natively", "1", QQuickWindow::NativeTextRendering);
+        row("ratio 2 renders natively", "2", QQuickWindow::NativeTextRendering);
+        row("a fraction is left to Qt", "1.25", QQuickWindow::QtTextRendering);
     }
     void renderingFollowsThePixelRatio()
     {

@@ -3,6 +3,7 @@
 #include "od/oddbdatabase.h"
 #include "support/fakehost.h"
 #include "support/scopes.h"
+#include "support/table.h"
 #include "velm/units/settings.h"
 
 #include <QTest>
@@ -48,15 +49,14 @@ private Q_SLOTS:
 
     void theAngularFlagsFollowTheType_data()
     {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<QString>("flags");
-        QTest::newRow("not set yet: the unit is left out") << -1 << "1000";
-        QTest::newRow("degrees: the unit is left out") << 0 << "1000";
-        QTest::newRow("degrees, minutes and seconds carry theirs") << 1 << "0";
-        QTest::newRow("grads: the unit is left out") << 2 << "1000";
-        QTest::newRow("radians: the unit is left out") << 3 << "1000";
-        QTest::newRow("surveyor's units carry theirs") << 4 << "0";
-        QTest::newRow("an unknown type: the unit is left out") << 5 << "1000";
+        const auto row = velmtest::columns<int, QString>("type", "flags");
+        row("not set yet: the unit is left out", -1, "1000");
+        row("degrees: the unit is left out", 0, "1000");
+        row("degrees, minutes and seconds carry theirs", 1, "0");
+        row("grads: the unit is left out", 2, "1000");
+        row("radians: the unit is left out", 3, "1000");
+        row("surveyor's units carry theirs", 4, "0");
+        row("an unknown type: the unit is left out", 5, "1000");
     }
     void theAngularFlagsFollowTheType()
     {
@@ -70,16 +70,14 @@ private Q_SLOTS:
 
     void whatTheFormatterParsesCounts_data()
     {
-        QTest::addColumn<bool>("success");
-        QTest::addColumn<std::optional<double>>("parsed");
-        QTest::addColumn<double>("linear");
-        QTest::addColumn<double>("angular");
+        const auto row =
+            velmtest::columns<bool, std::optional<double>, double, double>("success", "parsed", "linear", "angular");
         const auto value = [](double number) { return std::optional<double>(number); };
-        QTest::newRow("a value") << true << value(2.5) << 2.5 << 2.5;
-        QTest::newRow("a failure counts for lengths only") << false << value(2.5) << noValue << 2.5;
-        QTest::newRow("nothing written is no value") << true << std::optional<double>() << noValue << noValue;
-        QTest::newRow("no number is no value") << true << value(noValue) << noValue << noValue;
-        QTest::newRow("minus infinity is no value") << true << value(-infinity) << noValue << noValue;
+        row("a value", true, value(2.5), 2.5, 2.5);
+        row("a failure counts for lengths only", false, value(2.5), noValue, 2.5);
+        row("nothing written is no value", true, std::optional<double>(), noValue, noValue);
+        row("no number is no value", true, value(noValue), noValue, noValue);
+        row("minus infinity is no value", true, value(-infinity), noValue, noValue);
     }
     void whatTheFormatterParsesCounts()
     {
@@ -119,16 +117,15 @@ private Q_SLOTS:
 
     void withoutBothTheCLocaleSpeaks_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<double>("value");
-        QTest::newRow("a number with a unit behind a blank") << "  12.5 mm " << 12.5;
-        QTest::newRow("a number alone") << "-3e2" << -300.0;
-        QTest::newRow("a unit that touches its number") << "12.5mm" << noValue;
-        QTest::newRow("a unit alone") << "mm" << noValue;
-        QTest::newRow("a decimal comma") << "1,5" << noValue;
-        QTest::newRow("nothing") << "" << noValue;
-        QTest::newRow("blanks") << "   " << noValue;
-        QTest::newRow("infinity is not refused here") << "inf" << infinity;
+        const auto row = velmtest::columns<QString, double>("text", "value");
+        row("a number with a unit behind a blank", "  12.5 mm ", 12.5);
+        row("a number alone", "-3e2", -300.0);
+        row("a unit that touches its number", "12.5mm", noValue);
+        row("a unit alone", "mm", noValue);
+        row("a decimal comma", "1,5", noValue);
+        row("nothing", "", noValue);
+        row("blanks", "   ", noValue);
+        row("infinity is not refused here", "inf", infinity);
     }
     void withoutBothTheCLocaleSpeaks()
     {
