@@ -66,6 +66,7 @@ private Q_SLOTS:
     void aLargeDrawingHoldsUpNothingElse();
     void whatIsNewComesBeforeWhatIsGoneGoes();
     void aFolderMayGoWhileItIsRead();
+    void aFolderThatIsMadeAgainIsReadAgain();
     void theCurrentDrawingIsFound();
     void theUsersChoiceTakesThePlaceOfAWish();
     void aWishThatCantBeFulfilledIsForgotten();
@@ -215,6 +216,34 @@ void SheetSetReadingTest::aFolderMayGoWhileItIsRead()
     QCOMPARE(disk.rows(), QString());
 }
 
+void SheetSetReadingTest::aFolderThatIsMadeAgainIsReadAgain()
+{
+    SheetSetHouse disk;
+    disk.makeFolder("root/inner");
+    disk.write("root/inner/old.dxf");
+    disk.start();
+    disk.addAndOpen("root");
+    disk.open("root/inner");
+    QTRY_COMPARE(disk.rows(), QString("root(inner(old.dxf))"));
+    // Its row can't go as long as the large drawing is read.
+    disk.write("root/large.dxf", largeDrawing());
+    disk.controller->source()->onDirectoryChanged(disk.path("root"));
+    QVERIFY(QDir(disk.path("root/inner")).removeRecursively());
+    disk.controller->source()->onDirectoryChanged(disk.path("root/inner"));
+    QTRY_VERIFY(!disk.controller->source()->watcher()->directories().contains(disk.path("root/inner")));
+    disk.makeFolder("root/inner");
+    disk.write("root/inner/new.dxf");
+    disk.controller->source()->onDirectoryChanged(disk.path("root"));
+    // It is open still, or has been taken away and is opened again.
+    const auto isRead = [&disk] {
+        const QModelIndex inner = disk.row("root/inner");
+        if (disk.controller->tree()->canFetchMore(inner))
+            disk.controller->tree()->fetchMore(inner);
+        return disk.rows() == QString("root(inner(new.dxf) large.dxf (1))");
+    };
+    QTRY_VERIFY2(isRead(), qPrintable(disk.rows()));
+}
+
 void SheetSetReadingTest::theCurrentDrawingIsFound()
 {
     SheetSetHouse disk;
@@ -256,8 +285,10 @@ void SheetSetReadingTest::theUsersChoiceTakesThePlaceOfAWish()
     QCOMPARE(disk.rows(), QString("root(a b)"));
     QCOMPARE(disk.current(), QString("root"));
 
+    // A wish outlives a reload.
     disk.controller->reveal(disk.path("root/a/1.dxf"));
     disk.controller->reveal(disk.path("root/b/2.dxf"));
+    disk.controller->reload();
     QTRY_COMPARE(disk.current(), QString("2.dxf"));
     QTRY_VERIFY(!disk.controller->isReading());
     QCOMPARE(disk.current(), QString("2.dxf"));

@@ -10,7 +10,7 @@
 
 namespace workbench {
 /// Work on other threads, whose results are taken up on this one bit by bit. At the end of its life what runs is
-/// stopped and waited for; what waits is dropped, and so are the results that weren't taken up.
+/// asked to stop and waited for; what waits is dropped, and so are the results that weren't taken up.
 class Background : public QObject
 {
     Q_OBJECT

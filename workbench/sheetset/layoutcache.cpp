@@ -12,22 +12,37 @@ bool LayoutCache::isKnown(const QString& drawing) const
     return entry != m_entries.cend() && entry->size == file.size() && entry->time == file.lastModified();
 }
 
-void LayoutCache::read(const QString& drawing, const std::function<void()>& done, int priority)
+void LayoutCache::read(const QString& drawing, const Asker& asker)
 {
-    std::vector<std::function<void()>>& waiting = m_waiting[drawing];
-    waiting.push_back(done);
-    if (waiting.size() > 1)
+    std::vector<Asker>& askers = m_askers[drawing];
+    askers.push_back(asker);
+    if (askers.size() > 1)
         return;
-    const auto job = [this, drawing](const std::stop_token& stop) -> Background::Result {
-        const QFileInfo file(drawing);
-        Entry entry{file.size(), file.lastModified()};
-        entry.layouts = readDxfLayouts(velm::odFromQt(drawing), stop);
-        return [this, drawing, entry] {
-            m_entries.insert(drawing, entry);
-            for (const std::function<void()>& callback : m_waiting.take(drawing))
-                callback();
-        };
+    const auto job = [this, drawing, isWanted = asker.isWanted](const std::stop_token& stop) -> Background::Result {
+        std::optional<Entry> entry;
+        if (isWanted()) {
+            const QFileInfo file(drawing);
+            entry = {file.size(), file.lastModified(), {}};
+            entry->layouts = readDxfLayouts(velm::odFromQt(drawing), stop);
+        }
+        return [this, drawing, entry] { finish(drawing, entry); };
     };
-    m_reading.start(job, priority);
+    m_reading.start(job, asker.priority);
+}
+
+/// No entry: the first who asked didn't wait for it.
+void LayoutCache::finish(const QString& drawing, const std::optional<Entry>& entry)
+{
+    const std::vector<Asker> askers = m_askers.take(drawing);
+    if (entry) {
+        m_entries.insert(drawing, *entry);
+        askers.front().done();
+    }
+    // Those who joined may know of a change since it was read.
+    for (std::size_t place = 1; place < askers.size(); ++place)
+        if (isKnown(drawing))
+            askers[place].done();
+        else
+            read(drawing, askers[place]);
 }
 } // namespace workbench

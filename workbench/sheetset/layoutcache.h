@@ -6,6 +6,8 @@
 #include <QDateTime>
 #include <QHash>
 
+#include <optional>
+
 namespace workbench {
 /// The layouts of drawing files, read on other threads. A file is read again when its size or its time has changed.
 class LayoutCache
@@ -15,8 +17,15 @@ public:
     bool isKnown(const QString& drawing) const;
     /// As they were read last; none for a file that can't be read.
     std::vector<DxfLayout> layouts(const QString& drawing) const { return m_entries.value(drawing).layouts; }
-    /// Reads them anew, and calls back as soon as reading() finishes it.
-    void read(const QString& drawing, const std::function<void()>& done, int priority);
+    struct Asker
+    {
+        std::function<void()> done;
+        int priority;
+        std::function<bool()> isWanted; ///< called on other threads
+    };
+    /// Reads them anew, and calls back as soon as reading() finishes it. What isn't wanted any more when its turn comes
+    /// isn't read.
+    void read(const QString& drawing, const Asker& asker);
 
     Background& reading() { return m_reading; }
 
@@ -29,7 +38,9 @@ private:
     };
 
     QHash<QString, Entry> m_entries;
-    QHash<QString, std::vector<std::function<void()>>> m_waiting; // for what is being read
-    Background m_reading{2};                                      // each may hold a gigabyte
+    void finish(const QString& drawing, const std::optional<Entry>& entry);
+
+    QHash<QString, std::vector<Asker>> m_askers; // for what is being read
+    Background m_reading{2};                     // each may hold a gigabyte
 };
 } // namespace workbench

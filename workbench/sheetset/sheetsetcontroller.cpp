@@ -217,7 +217,8 @@ void SheetSetController::reload()
     const QString current = m_tree.filePath(m_sorted.mapToSource(m_current));
     m_tree.reload();
     followRoots();
-    reveal(current);
+    if (!m_tree.isSeeking())
+        reveal(current);
 }
 
 bool SheetSetController::activate(const QModelIndex& index)
@@ -228,8 +229,14 @@ bool SheetSetController::activate(const QModelIndex& index)
     const QString path = m_tree.filePath(row);
     if (!show)
         return true;
+    const int activation = ++m_activations;
+    const auto showLayout = [this, path, activation](const Box& shown) {
+        // The user may have gone on while the drawing was read.
+        if (activation == m_activations)
+            show(QFileInfo(path).path(), shown);
+    };
     if (row.data(Tree::DragValidRole).toBool())
-        m_tree.askForShown(path, [this, path](const Box& shown) { show(QFileInfo(path).path(), shown); });
+        m_tree.askForShown(path, showLayout);
     else
         show(path, {});
     return true;

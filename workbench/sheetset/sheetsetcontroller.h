@@ -98,6 +98,7 @@ private:
     QStringList m_roots;
     QStringList m_missing;
     QString m_warning;
+    int m_activations = 0;
     QFileSystemWatcher m_parents; // of the roots
     QTimer m_rootPause;
     QTimer m_storePause;

@@ -33,10 +33,7 @@ SheetSetTree::SheetSetTree(std::unique_ptr<WatchedFolders> watcher, std::unique_
     m_turn.setInterval(pause);
     connect(&m_turn, &QTimer::timeout, this, &SheetSetTree::readOn);
     for (const Background* background : {&m_listing, &m_layouts.reading()})
-        connect(background, &Background::ready, this, [this] {
-            if (!m_turn.isActive())
-                readOn();
-        });
+        connect(background, &Background::ready, this, &SheetSetTree::readOnSoon);
 }
 
 SheetSetTree::~SheetSetTree() = default;
@@ -60,7 +57,7 @@ void SheetSetTree::askForShown(const QString& modelView, const std::function<voi
     if (m_layouts.isKnown(path.path()))
         tell();
     else
-        m_layouts.read(path.path(), tell, std::numeric_limits<int>::max());
+        m_layouts.read(path.path(), {tell, std::numeric_limits<int>::max(), [] { return true; }});
 }
 
 QModelIndex SheetSetTree::appendItem(const QModelIndex& parent, const QString& path)
@@ -201,6 +198,8 @@ void SheetSetTree::removeRoot(const QString& path)
 {
     removeDirectory(path);
     forget(path, m_expanded);
+    if (m_wanted == path || isBelow(m_wanted, path))
+        m_wanted.clear();
 }
 
 QStringList SheetSetTree::expandedPaths() const

@@ -52,7 +52,8 @@ public:
     /// Opens the folders on the way to a path; found() tells when its row is there. Only the last wish counts, and it
     /// is forgotten when there is no such path. An empty one takes back the last.
     void seek(const QString& path);
-    /// Forgets what is in the roots; a view reads again what is expanded.
+    bool isSeeking() const { return !m_wanted.isEmpty(); }
+    /// Forgets what is in the roots; a view reads again what is expanded. A path that is sought still is.
     void reload();
     /// Takes a root away; what is expanded there is forgotten.
     void removeRoot(const QString& path);
@@ -81,6 +82,7 @@ private:
     std::shared_ptr<SheetSetReading> begin(const QModelIndex& parent);
     void list(const std::shared_ptr<SheetSetReading>& reading);
     void takeListing(SheetSetReading& reading, const std::optional<SheetSetListing>& listing);
+    void readOnSoon();
     void readOn();
     void noteReading();
     bool step();

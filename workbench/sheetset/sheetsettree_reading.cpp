@@ -25,7 +25,7 @@ void SheetSetTree::fetchMore(const QModelIndex& parent)
         list(reading);
     else
         takeListing(*reading, SheetSetListing(paths));
-    readOn();
+    readOnSoon();
 }
 
 void SheetSetTree::onDirectoryChanged(const QString& path)
@@ -41,7 +41,7 @@ void SheetSetTree::follow(const QModelIndex& folder)
         reading->isOutdated = true;
     else
         list(begin(folder));
-    readOn();
+    readOnSoon();
 }
 
 std::shared_ptr<SheetSetReading> SheetSetTree::readingOf(const QModelIndex& parent) const
@@ -76,16 +76,23 @@ void SheetSetTree::list(const std::shared_ptr<SheetSetReading>& reading)
     m_listing.start(job, reading->priority);
 }
 
-/// No listing: it can't be read.
+/// No listing: it can't be read, or is no longer there, which the folder around it will tell.
 void SheetSetTree::takeListing(SheetSetReading& reading, const std::optional<SheetSetListing>& listing)
 {
-    setLocked(reading.parent, !listing && fileSystem()->directoryExists(filePath(reading.parent)));
+    setLocked(reading.parent, !listing);
     reading.isListed = listing.has_value();
     reading.listing = listing.value_or(SheetSetListing());
     reading.next = 0;
     reading.gone.clear();
     // The rows of one that can't be read stay: nobody knows whether they are gone.
     reading.phase = listing ? Phase::Comparing : Phase::Appending;
+}
+
+/// Many may be to be read at once: together they get one turn.
+void SheetSetTree::readOnSoon()
+{
+    if (!m_turn.isActive())
+        readOn();
 }
 
 void SheetSetTree::readOn()
@@ -199,7 +206,8 @@ void SheetSetTree::append(const std::shared_ptr<SheetSetReading>& reading)
         reading->drawings.remove(path);
         appendItem(reading->parent, path);
     };
-    m_layouts.read(path, appendDrawing, reading->priority);
+    m_layouts.read(path,
+                   {appendDrawing, reading->priority, [weak = std::weak_ptr(reading)] { return !weak.expired(); }});
 }
 
 void SheetSetTree::end(SheetSetReading& reading)
